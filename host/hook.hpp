@@ -1,0 +1,166 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+
+#include "host/core_graphics.hpp"
+#include "host/runtime.hpp"
+
+namespace velvault12 {
+
+/// What a hook replaced, bound to the object that the hook was called for: `host(argument)` runs the host's
+/// own method. Where nothing was replaced it does nothing and answers zero. It may be copied and called
+/// later, for as long as the object lives.
+template <class Signature>
+class Replaced;
+
+template <class Result, class... Parameters>
+class Replaced<Result(Parameters...)> {
+ public:
+  using Function = typename Wire<Result>::Type(id, SEL, typename Wire<Parameters>::Type...);
+
+  Replaced(id receiver, SEL selector, IMP implementation)
+      : receiver_(receiver), selector_(selector), function_(reinterpret_cast<Function*>(implementation)) {}
+
+  Result operator()(Parameters... arguments) const {
+    if (function_ == nullptr) return Result();
+    if constexpr (std::is_void_v<Result>) {
+      function_(receiver_, selector_, Wire<Parameters>::to(arguments)...);
+    } else {
+      return Wire<Result>::from(function_(receiver_, selector_, Wire<Parameters>::to(arguments)...));
+    }
+  }
+
+ private:
+  id receiver_;
+  SEL selector_;
+  Function* function_;
+};
+
+/// One change to the host: a method replaced or added.
+struct HookRow {
+  const char* className;
+  const char* selector;
+  /// The type encoding of an added method, null for a replaced one.
+  const char* encoding;
+  void (*install)(const HookRow& row);
+};
+
+/// Installs the rows in their order. A class or a replaced method that the host lacks is passed over.
+void installHooks(std::span<const HookRow> rows);
+
+namespace hook_details {
+
+enum class MethodOf { instance, type };
+
+void replaceMethod(const HookRow& row, MethodOf owner, IMP implementation, IMP* replaced);
+void addMethod(const HookRow& row, IMP implementation);
+
+template <auto Function, class Type = decltype(Function)>
+struct Replacement;
+
+/// The C function that stands in for the host's method, and the one slot that keeps what it replaced.
+template <auto Function, class Receiver, class Result, class... Parameters>
+struct Replacement<Function, Result (*)(Receiver, Replaced<Result(Parameters...)>, Parameters...)> {
+  static inline constinit IMP slot = nullptr;
+
+  static typename Wire<Result>::Type call(id self, SEL selector,
+                                          typename Wire<Parameters>::Type... arguments) {
+    const Replaced<Result(Parameters...)> host(self, selector, slot);
+    if constexpr (std::is_void_v<Result>) {
+      Function(Receiver(self), host, Wire<Parameters>::from(arguments)...);
+    } else {
+      return Wire<Result>::to(Function(Receiver(self), host, Wire<Parameters>::from(arguments)...));
+    }
+  }
+
+  template <MethodOf Owner>
+  static void install(const HookRow& row) {
+    replaceMethod(row, Owner, reinterpret_cast<IMP>(&call), &slot);
+  }
+};
+
+/// Of a parameter of an added method; empty for a type that none has.
+template <class T>
+inline constexpr std::string_view kEncoding;
+template <class T>
+requires std::is_base_of_v<Object, T>
+inline constexpr std::string_view kEncoding<T> = "@";
+template <>
+inline constexpr std::string_view kEncoding<int> = "i";
+template <>
+inline constexpr std::string_view kEncoding<bool> = "B";
+template <>
+inline constexpr std::string_view kEncoding<CGSize> = "{CGSize=dd}";
+
+template <auto Function, class Type = decltype(Function)>
+struct Addition;
+
+template <auto Function, class Receiver, class Result, class... Parameters>
+struct Addition<Function, Result (*)(Receiver, Parameters...)> {
+  static typename Wire<Result>::Type call(id self, SEL, typename Wire<Parameters>::Type... arguments) {
+    if constexpr (std::is_void_v<Result>) {
+      Function(Receiver(self), Wire<Parameters>::from(arguments)...);
+    } else {
+      return Wire<Result>::to(Function(Receiver(self), Wire<Parameters>::from(arguments)...));
+    }
+  }
+
+  static void install(const HookRow& row) { addMethod(row, reinterpret_cast<IMP>(&call)); }
+
+  /// The parameters must be as encoded. A method told to answer nothing may answer an object: some callers
+  /// take one from whatever they call.
+  static consteval bool hasEncoding(std::string_view encoding) {
+    static_assert(std::is_void_v<Result> || std::is_base_of_v<Object, Result>);
+    constexpr std::string_view start = "v@:";
+    if (!encoding.starts_with(start)) return false;
+    encoding.remove_prefix(start.size());
+    [[maybe_unused]] const auto take = [&encoding](std::string_view parameter) {
+      if (parameter.empty() || !encoding.starts_with(parameter)) return false;
+      encoding.remove_prefix(parameter.size());
+      return true;
+    };
+    return (take(kEncoding<Parameters>) && ...) && encoding.empty();
+  }
+};
+
+}  // namespace hook_details
+
+/// A row that puts `Function` in the place of an instance method. The function takes the receiver, what it
+/// replaces, and the method's arguments; its C++ types are the method's type.
+template <auto Function>
+consteval HookRow replace(const char* className, const char* selector) {
+  using hook_details::MethodOf;
+  return {className, selector, nullptr,
+          &hook_details::Replacement<Function>::template install<MethodOf::instance>};
+}
+
+/// The same for a class method.
+template <auto Function>
+consteval HookRow replaceClassMethod(const char* className, const char* selector) {
+  using hook_details::MethodOf;
+  return {className, selector, nullptr,
+          &hook_details::Replacement<Function>::template install<MethodOf::type>};
+}
+
+/// A row that gives the class a new method of that type encoding. Does not compile when the function takes
+/// other arguments than the encoding tells.
+template <auto Function>
+consteval HookRow add(const char* className, const char* selector, const char* encoding) {
+  if (!hook_details::Addition<Function>::hasEncoding(encoding))
+    throw "the function has another type encoding";
+  return {className, selector, encoding, &hook_details::Addition<Function>::install};
+}
+
+/// Whether each replacement is used by one row only: it has one slot for what it replaced.
+consteval bool replacementsAreDistinct(std::span<const HookRow> rows) {
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      if (rows[i].encoding == nullptr && rows[i].install == rows[j].install) return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace velvault12

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <utility>
+
+#include "host/runtime.hpp"
+
+namespace velvault12 {
+
+/// Owns one reference to a host object: retains it while the Ref lives. Empty for nil.
+template <class View>
+class Ref {
+ public:
+  Ref() = default;
+  explicit Ref(View object) : object_(object) { object_.template send<"retain", Object()>(); }
+  Ref(const Ref& other) : Ref(other.object_) {}
+  Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, View())) {}
+  Ref& operator=(Ref other) noexcept {
+    std::swap(object_, other.object_);
+    return *this;
+  }
+  // Through a local: the release may run the host's code, and that may come back to this very Ref.
+  ~Ref() { std::exchange(object_, View()).template send<"release", void()>(); }
+
+  /// Takes over a reference that the caller already owns (what `init`, `copy` and `new` answer).
+  static Ref adopt(View owned) {
+    Ref ref;
+    ref.object_ = owned;
+    return ref;
+  }
+
+  View get() const { return object_; }
+  const View* operator->() const { return &object_; }
+  explicit operator bool() const { return static_cast<bool>(object_); }
+
+  /// Gives the reference up to the current autorelease pool: for what a hook answers to its host.
+  View autorelease() && {
+    const View object = std::exchange(object_, View());
+    object.template send<"autorelease", Object()>();
+    return object;
+  }
+
+ private:
+  View object_;
+};
+
+/// A new object of the view's class by `alloc` and `init`; empty where the host lacks the class.
+template <class View>
+Ref<View> makeObject() {
+  const auto allocated = View(sendToClass<"alloc", id()>(View::hostClass()));
+  return Ref<View>::adopt(View(allocated.template send<"init", id()>()));
+}
+
+/// Everything autoreleased while it lives goes with it: for code that the host calls outside its own pools.
+class AutoreleasePool {
+ public:
+  AutoreleasePool() : pool_(sendToClass<"new", id()>(classNamed<"NSAutoreleasePool">())) {}
+  ~AutoreleasePool() { Object(pool_).send<"drain", void()>(); }
+  AutoreleasePool(const AutoreleasePool&) = delete;
+  AutoreleasePool& operator=(const AutoreleasePool&) = delete;
+
+ private:
+  id pool_;
+};
+
+}  // namespace velvault12
