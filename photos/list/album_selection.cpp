@@ -1,0 +1,47 @@
+#include "photos/list/album_selection.hpp"
+
+#include "photos/list/album_lock.hpp"
+#include "photos/list/authentication_request.hpp"
+
+namespace velvault12 {
+
+namespace {
+
+NSString titleAt(PUHorizontalAlbumListGadget strip, NSIndexPath path) {
+  return albumTile(strip.gadgetAtIndexPath(path)).title();
+}
+
+NSString titleAt(PUAlbumListViewController list, NSIndexPath path) {
+  const auto tile = list.tileAtIndexPath(path);
+  return tile ? tile.title() : list.collectionAtIndexPath(path).localizedTitle();
+}
+
+/// Whether the selection goes on to the host; if not, its owner has been asked for.
+template <class Controller>
+bool goesOn(Controller controller, NSIndexPath path) {
+  AlbumLock& lock = albumLock();
+  if (lock.takePass()) {
+    lock.pendingSelection = {};
+    // An answer can come when nothing waits; the host knows no selection of nothing.
+    return static_cast<bool>(path);
+  }
+  lock.pendingSelection = Ref(path);
+  const NSString title = titleAt(controller, path);
+  if (!title || !lock.isLocked(title.utf8())) return true;
+  askOwner(controller, AuthenticationMethod::openAlbum, title);
+  return false;
+}
+
+}  // namespace
+
+void selectInStrip(PUHorizontalAlbumListGadget strip, Replaced<void(UICollectionView, NSIndexPath)> host,
+                   UICollectionView view, NSIndexPath path) {
+  if (goesOn(strip, path)) host(view, path);
+}
+
+void selectInList(PUAlbumListViewController list, Replaced<void(NSIndexPath)> host, NSIndexPath path) {
+  albumLock().lockedAlbumOpened = false;
+  if (goesOn(list, path)) host(path);
+}
+
+}  // namespace velvault12

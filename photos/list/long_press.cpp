@@ -1,0 +1,74 @@
+#include "photos/list/long_press.hpp"
+
+#include <string>
+
+#include "photos/list/album_lock.hpp"
+#include "photos/list/authentication_request.hpp"
+
+namespace velvault12 {
+
+namespace {
+
+constexpr double kPressSeconds = 1.0;
+constexpr double kSecondsToRedraw = 0.1;
+constexpr NSInteger kLockFeedback = 1001;
+
+bool actsIn(UIGestureRecognizer::State state) {
+  // A press that waited for its owner is handled again when the finger has long been lifted: it is possible
+  // then.
+  return state == UIGestureRecognizer::State::possible || state == UIGestureRecognizer::State::began;
+}
+
+void makePressable(PUAlbumListCellContentView tile, UIViewController target) {
+  if (!tile || tile.gestureRecognizers().count() > 0) return;
+  const auto recognizer = UILongPressGestureRecognizer::make(target, selector<"handleLongPress:">());
+  recognizer->setMinimumPressDuration(kPressSeconds);
+  tile.addGestureRecognizer(recognizer.get());
+}
+
+}  // namespace
+
+void handleLongPress(UIViewController controller, UIGestureRecognizer recognizer) {
+  if (!recognizer || !actsIn(recognizer.state())) return;
+  AlbumLock& lock = albumLock();
+  lock.reload();
+  const auto tile = recognizer.view().as<PUAlbumListCellContentView>();
+  UIDevice::currentDevice().tapticEngine().actuateFeedback(kLockFeedback);
+  const NSString title = tile.title();
+  if (!title) return;
+
+  const std::string name = title.utf8();
+  switch (longPressOutcome(lock.isLocked(name), lock.hasPass())) {
+    case LongPressOutcome::lock:
+      lock.lock(name);
+      break;
+    case LongPressOutcome::askOwner:
+      lock.pendingLongPress = Ref(recognizer);
+      askOwner(controller, AuthenticationMethod::removeLock, title);
+      break;
+    case LongPressOutcome::removeLock:
+      lock.takePass();
+      lock.pendingLongPress = {};
+      lock.removeLock(name);
+      break;
+  }
+  NSTimer::scheduledOnce(kSecondsToRedraw, tile, selector<"layoutSubviews">());
+}
+
+UICollectionViewCell stripCell(PUHorizontalAlbumListGadget strip,
+                               Replaced<UICollectionViewCell(UICollectionView, NSIndexPath)> host,
+                               UICollectionView view, NSIndexPath path) {
+  const UICollectionViewCell cell = host(view, path);
+  makePressable(albumTile(strip.gadgetAtIndexPath(path)), strip);
+  return cell;
+}
+
+UICollectionViewCell listCell(PUAlbumListViewController list,
+                              Replaced<UICollectionViewCell(UICollectionView, NSIndexPath)> host,
+                              UICollectionView view, NSIndexPath path) {
+  const UICollectionViewCell cell = host(view, path);
+  makePressable(albumTile(cell), list);
+  return cell;
+}
+
+}  // namespace velvault12

@@ -1,0 +1,22 @@
+#include "photos/list/return_to_main.hpp"
+
+#include "photos/list/album_lock.hpp"
+#include "photos/list/lock_rules.hpp"
+#include "startup/settings.hpp"
+
+namespace velvault12 {
+
+void appEnteredBackground(PhotosApplication app, Replaced<void(UIApplication)> host, UIApplication argument) {
+  if (settings().enabled) returnToMainView(app);
+  host(argument);
+}
+
+void returnToMainView(PhotosApplication app) {
+  const Settings& chosen = settings();
+  if (!returnsToMainView(chosen.returnToMainDefault, chosen.returnToMainLocked,
+                         albumLock().lockedAlbumOpened))
+    return;
+  app.tabbedLibraryViewController().selectedNavigationController().popToRoot(true);
+}
+
+}  // namespace velvault12

@@ -1,0 +1,62 @@
+#include "startup/hook_table.hpp"
+
+#include "photos/list/album_deletion.hpp"
+#include "photos/list/album_selection.hpp"
+#include "photos/list/appearing.hpp"
+#include "photos/list/authentication_request.hpp"
+#include "photos/list/long_press.hpp"
+#include "photos/list/return_to_main.hpp"
+#include "springboard/service.hpp"
+
+namespace velvault12 {
+
+namespace {
+
+constexpr HookRow kPhotosHooks[] = {
+    replace<appEnteredBackground>("PhotosApplication", "applicationDidEnterBackground:"),
+    add<returnToMainView>("PhotosApplication", "returnToMainView", "v@:"),
+    replace<stripWillAppear>("PUHorizontalAlbumListGadget", "viewWillAppear:"),
+    replace<stripCell>("PUHorizontalAlbumListGadget", "collectionView:cellForItemAtIndexPath:"),
+    replace<selectInStrip>("PUHorizontalAlbumListGadget", "collectionView:didSelectItemAtIndexPath:"),
+    add<handleLongPress>("PUHorizontalAlbumListGadget", "handleLongPress:", "v@:@"),
+    add<unlockAlbum>("PUHorizontalAlbumListGadget", "unlockAlbum:withAlbum:", "v@:i@"),
+    add<requestPassword>("PUHorizontalAlbumListGadget", "requestPassword:", "v@:i"),
+    add<stripUnlockAuthorised>("PUHorizontalAlbumListGadget", "unlockAuthorised:", "v@:i"),
+    replace<listWillAppear>("PUAlbumListViewController", "viewWillAppear:"),
+    replace<listDidLayoutSubviews>("PUAlbumListViewController", "viewDidLayoutSubviews"),
+    replace<listCell>("PUAlbumListViewController", "collectionView:cellForItemAtIndexPath:"),
+    replace<selectInList>("PUAlbumListViewController", "didSelectItemAtIndexPath:"),
+    add<handleLongPress>("PUAlbumListViewController", "handleLongPress:", "v@:@"),
+    add<unlockAlbum>("PUAlbumListViewController", "unlockAlbum:withAlbum:", "v@:i@"),
+    add<requestPassword>("PUAlbumListViewController", "requestPassword:", "v@:i"),
+    add<listUnlockAuthorised>("PUAlbumListViewController", "unlockAuthorised:", "v@:i"),
+    replace<deleteAlbum>("PUAlbumListViewController", "albumListCellContentView:performDeleteAction:"),
+};
+
+constexpr HookRow kSpringBoardHooks[] = {
+    replace<startService>("SpringBoard", "applicationDidFinishLaunching:"),
+    add<serveSaveArray>("SpringBoard", "handleMessageNamed:withUserInfo:", "v@:@@"),
+    add<serveAuthenticate>("SpringBoard", "authenticate:withUserInfo:", "v@:@@"),
+};
+
+static_assert(replacementsAreDistinct(kPhotosHooks));
+static_assert(replacementsAreDistinct(kSpringBoardHooks));
+
+}  // namespace
+
+std::span<const HookRow> hooksOf(HookGroup group) {
+  switch (group) {
+    case HookGroup::photos:
+      return kPhotosHooks;
+    case HookGroup::springBoard:
+      return kSpringBoardHooks;
+    case HookGroup::camera:
+    case HookGroup::none:
+      return {};
+  }
+  return {};
+}
+
+std::span<const HookRow> libraryFilterHooks() { return {}; }
+
+}  // namespace velvault12

@@ -1,0 +1,48 @@
+#include "photos/list/lock_rules.hpp"
+
+#include <gtest/gtest.h>
+
+namespace velvault12 {
+namespace {
+
+TEST(LockedTitles, MatchToTheLetterAndGoAllAtOnce) {
+  LockedTitles titles({"Pets", "Holidays", "Pets"});
+  titles.add("Caf\u00e9");
+  EXPECT_TRUE(titles.contains("Caf\u00e9"));
+  EXPECT_FALSE(titles.contains("Cafe\u0301"));
+  EXPECT_FALSE(titles.contains("pets"));
+  EXPECT_FALSE(titles.contains("Pet"));
+  titles.remove("Pets");
+  EXPECT_EQ(titles.all(), (std::vector<std::string>{"Holidays", "Caf\u00e9"}));
+}
+
+TEST(LongPress, LocksFreelyAndUnlocksOnlyWithAPass) {
+  EXPECT_EQ(longPressOutcome(false, false), LongPressOutcome::lock);
+  EXPECT_EQ(longPressOutcome(false, true), LongPressOutcome::lock);
+  EXPECT_EQ(longPressOutcome(true, false), LongPressOutcome::askOwner);
+  EXPECT_EQ(longPressOutcome(true, true), LongPressOutcome::removeLock);
+}
+
+TEST(Password, IsComparedWholeAndWithoutOneAnythingUnlocks) {
+  using enum PasswordOutcome;
+  EXPECT_EQ(passwordOutcome("open", "open"), unlocks);
+  EXPECT_EQ(passwordOutcome("open\n", "open"), isWrong);
+  EXPECT_EQ(passwordOutcome("open", " open"), isWrong);
+  EXPECT_EQ(passwordOutcome("open", "Open"), isWrong);
+  EXPECT_EQ(passwordOutcome("", ""), unlocks);
+  EXPECT_EQ(passwordOutcome("", "x"), isWrong);
+  EXPECT_EQ(passwordOutcome(std::nullopt, ""), unlocksWithoutPassword);
+  EXPECT_EQ(passwordOutcome(std::nullopt, "x"), unlocksWithoutPassword);
+}
+
+TEST(ReturnToMain, AlwaysOrAfterALockedAlbum) {
+  for (const bool opened : {false, true}) {
+    EXPECT_FALSE(returnsToMainView(false, false, opened));
+    EXPECT_EQ(returnsToMainView(false, true, opened), opened);
+    EXPECT_TRUE(returnsToMainView(true, false, opened));
+    EXPECT_TRUE(returnsToMainView(true, true, opened));
+  }
+}
+
+}  // namespace
+}  // namespace velvault12
