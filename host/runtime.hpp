@@ -32,7 +32,6 @@ using ObjcBool = unsigned char;
 
 extern "C" {
 Class objc_getClass(const char* name);
-Class object_getClass(id object);
 const char* class_getName(Class type);
 SEL sel_registerName(const char* name);
 objc_method* class_getInstanceMethod(Class type, SEL selector);
@@ -42,11 +41,19 @@ ObjcBool class_addIvar(Class type, const char* name, std::size_t size, std::uint
                        const char* encoding);
 void objc_registerClassPair(Class type);
 #if defined(__APPLE__)
+Class object_getClass(id object);
 void objc_msgSend();
 #else
 IMP objc_msg_lookup(id receiver, SEL selector);
 #endif
 }
+
+#if !defined(__APPLE__)
+/// This runtime has it in its headers only: an object begins with its class.
+inline Class object_getClass(id object) {
+  return object == nullptr ? nullptr : *reinterpret_cast<Class*>(object);
+}
+#endif
 
 /// A string as a template argument: how selectors and class names are spelled in this code.
 template <std::size_t Size>

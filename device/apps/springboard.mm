@@ -1,0 +1,27 @@
+#import "device/frameworks/UIKit/UIKit.h"
+
+@interface FBSystemApp : UIApplication
+@end
+
+@implementation FBSystemApp
+@end
+
+@interface SpringBoard : FBSystemApp {
+  UIWindow* _window;
+}
+@end
+
+@implementation SpringBoard
+
+- (void)dealloc {
+  [_window release];
+  [super dealloc];
+}
+
+- (void)applicationDidFinishLaunching:(UIApplication*)application {
+  _window = [[UIWindow alloc] initWithFrame:[[UIScreen mainScreen] bounds]];
+  [_window setRootViewController:[[[UIViewController alloc] init] autorelease]];
+  [_window makeKeyAndVisible];
+}
+
+@end

@@ -1,0 +1,37 @@
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
+#include "device/apps/app.hpp"
+#import "device/frameworks/UIKit/UIApplication.h"
+#include "device/system/process.hpp"
+
+namespace device {
+namespace {
+
+struct InstalledApp {
+  std::string_view bundleIdentifier;
+  const char* applicationClass;
+};
+
+constexpr InstalledApp kInstalledApps[] = {
+    {kSpringBoard, "SpringBoard"},
+    {kPhotos, "PhotosApplication"},
+    {kGallery, "GalleryApplication"},
+};
+
+}  // namespace
+
+void startApp(std::string_view bundleIdentifier) {
+  const auto app = std::ranges::find(kInstalledApps, bundleIdentifier, &InstalledApp::bundleIdentifier);
+  if (app == std::end(kInstalledApps)) {
+    throw std::runtime_error("no app " + std::string(bundleIdentifier) + " on this phone");
+  }
+  // The application lives as long as its process.
+  UIApplication* application =
+      [[NSClassFromString([NSString stringWithUTF8String:app->applicationClass]) alloc] init];
+  [application applicationDidFinishLaunching:application];
+  [application _layoutWindows];
+}
+
+}  // namespace device

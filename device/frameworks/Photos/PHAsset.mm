@@ -1,0 +1,73 @@
+#import "device/frameworks/Photos/PHAsset.h"
+
+#include <algorithm>
+#include <vector>
+
+#import "device/frameworks/Photos/PHCollection.h"
+#include "device/frameworks/Photos/shared_photo_database.hpp"
+
+namespace {
+constexpr NSUInteger kKeyAssets = 3;
+}
+
+@implementation PHAsset
+
+@synthesize mediaType = _mediaType;
+@synthesize creationDate = _creationDate;
+@synthesize hidden = _hidden;
+@synthesize favorite = _favorite;
+@synthesize _color = _color;
+
+- (id)_initWithRow:(const device::AssetRow&)row {
+  NSString* identifier = [NSString stringWithFormat:@"%lld/L0/001", static_cast<long long>(row.identifier)];
+  self = [super _initWithLocalIdentifier:identifier];
+  if (!self) return nil;
+  _mediaType = static_cast<NSInteger>(row.mediaType);
+  _creationDate = [[NSDate dateWithTimeIntervalSince1970:row.creationDate] retain];
+  _hidden = row.isHidden;
+  _favorite = row.isFavorite;
+  _color = row.color;
+  return self;
+}
+
+- (void)dealloc {
+  [_creationDate release];
+  [super dealloc];
+}
+
+- (std::int64_t)_identifier {
+  return [_localIdentifier longLongValue];
+}
+
++ (PHFetchResult*)_resultOf:(const std::vector<device::AssetRow>&)rows options:(PHFetchOptions*)options {
+  NSMutableArray* assets = [NSMutableArray array];
+  for (const device::AssetRow& row : rows) {
+    if (row.isHidden && ![options includeHiddenAssets]) continue;
+    [assets addObject:[[[PHAsset alloc] _initWithRow:row] autorelease]];
+  }
+  return [PHFetchResult _resultOf:assets options:options];
+}
+
++ (PHFetchResult*)fetchAssetsInAssetCollection:(PHAssetCollection*)collection
+                                       options:(PHFetchOptions*)options {
+  if (!collection) return [PHFetchResult _resultOf:[NSArray array] options:nil];
+  return [self _resultOf:[collection _assetRows] options:options];
+}
+
++ (PHFetchResult*)fetchAssetsWithMediaType:(NSInteger)type options:(PHFetchOptions*)options {
+  std::vector<device::AssetRow> rows = device::sharedPhotoDatabase().allAssets();
+  std::erase_if(rows, [&](const auto& row) { return static_cast<NSInteger>(row.mediaType) != type; });
+  return [self _resultOf:rows options:options];
+}
+
++ (PHFetchResult*)fetchKeyAssetsInAssetCollection:(PHAssetCollection*)collection
+                                          options:(PHFetchOptions*)options {
+  if (!collection) return nil;
+  NSArray* all = [[self _resultOf:[collection _assetRows] options:options] fetchedObjects];
+  const NSUInteger count = std::min([all count], kKeyAssets);
+  if (count == 0) return nil;
+  const NSUInteger first = [collection keyAssetsAtEnd] ? [all count] - count : 0;
+  return [PHFetchResult _resultOf:[all subarrayWithRange:NSMakeRange(first, count)] options:nil];
+}
+
+@end

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <vector>
+
+#import "device/frameworks/Photos/PHObject.h"
+#include "device/frameworks/Photos/photo_database.hpp"
+
+@class PHAsset;
+
+enum PHAssetCollectionType : NSInteger {
+  PHAssetCollectionTypeAlbum = 1,
+  PHAssetCollectionTypeSmartAlbum = 2
+};
+
+enum PHAssetCollectionSubtype : NSInteger {
+  PHAssetCollectionSubtypeAlbumRegular = 2,
+  PHAssetCollectionSubtypeSmartAlbumVideos = 202,
+  PHAssetCollectionSubtypeSmartAlbumFavorites = 203,
+  PHAssetCollectionSubtypeSmartAlbumAllHidden = 205,
+  PHAssetCollectionSubtypeSmartAlbumUserLibrary = 209,
+  PHAssetCollectionSubtypeTrashBin = 1000000201,
+  PHAssetCollectionSubtypeAny = NSIntegerMax,
+};
+
+enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
+
+@interface PHCollection : PHObject {
+  std::int64_t _identifier;
+  NSString* _localizedTitle;
+}
+@property(nonatomic, readonly) NSString* localizedTitle;
+/// The number of an album or folder in the library, 0 for what is not kept there.
+@property(nonatomic, readonly) std::int64_t _identifier;
+/// The albums and folders at the top level.
++ (PHFetchResult*)fetchTopLevelUserCollectionsWithOptions:(PHFetchOptions*)options;
+@end
+
+@interface PHAssetCollection : PHCollection {
+  NSInteger _assetCollectionType;
+  NSInteger _assetCollectionSubtype;
+}
+@property(nonatomic, readonly) NSString* title;
+@property(nonatomic, readonly) NSInteger assetCollectionType;
+@property(nonatomic, readonly) NSInteger assetCollectionSubtype;
+/// Without the hidden ones; NSNotFound for a smart album, which has no quick estimate.
+@property(nonatomic, readonly) NSUInteger estimatedAssetCount;
+@property(nonatomic, readonly) BOOL isTrashBin;
+@property(nonatomic, readonly) BOOL startsAtEnd;
+@property(nonatomic, readonly) BOOL keyAssetsAtEnd;
+
++ (PHFetchResult*)fetchAssetCollectionsWithType:(NSInteger)type
+                                        subtype:(NSInteger)subtype
+                                        options:(PHFetchOptions*)options;
++ (PHFetchResult*)fetchAssetCollectionsWithLocalIdentifiers:(NSArray*)identifiers
+                                                    options:(PHFetchOptions*)options;
+/// Never finds a smart album.
++ (PHFetchResult*)fetchAssetCollectionsContainingAsset:(PHAsset*)asset
+                                              withType:(NSInteger)type
+                                               options:(PHFetchOptions*)options;
+
+/// Its assets as the library holds them now, hidden ones included.
+- (std::vector<device::AssetRow>)_assetRows;
+@end
+
+/// A folder. It has no title, type or trash bin of an asset collection.
+@interface PHCollectionList : PHCollection {
+  NSArray* _transientCollections;
+}
+@property(nonatomic, readonly) NSInteger collectionListType;
+@property(nonatomic, readonly) NSInteger collectionListSubtype;
+/// Its members as the library holds them now.
+@property(nonatomic, readonly) NSArray* collections;
+/// A list that is kept nowhere.
++ (PHCollectionList*)transientCollectionListWithCollections:(NSArray*)collections title:(NSString*)title;
+/// One list with all that is at the top level, "PXUserCollectionsSectionTitle".
++ (PHFetchResult*)fetchRootAlbumCollectionListWithOptions:(PHFetchOptions*)options;
+@end

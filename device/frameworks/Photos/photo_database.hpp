@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct sqlite3;
+
+namespace device {
+
+/// Where an iPhone keeps its photo library's database.
+inline constexpr std::string_view kPhotoDatabasePath = "/var/mobile/Media/PhotoData/Photos.sqlite";
+
+enum class MediaType : int { image = 1, video = 2 };
+
+struct AssetRow {
+  std::int64_t identifier = 0;
+  MediaType mediaType = MediaType::image;
+  /// Seconds since 1970.
+  double creationDate = 0;
+  bool isHidden = false;
+  bool isFavorite = false;
+  /// The subtype of a smart album that the asset belongs to besides those computed (such as 201 for a
+  /// panorama), 0 for none.
+  std::int64_t smartSubtype = 0;
+  /// The colour that stands for the asset's pixels, 0xRRGGBB.
+  std::uint32_t color = 0;
+};
+
+/// A user album, or a folder that holds albums and folders.
+struct CollectionRow {
+  std::int64_t identifier = 0;
+  std::string title;
+  bool isFolder = false;
+  /// The folder that holds it, 0 at the top level.
+  std::int64_t parent = 0;
+};
+
+/// The photo library's database, shared by all processes of a device: each change is one transaction, and
+/// every process sees it at its next fetch.
+class PhotoDatabase {
+ public:
+  /// Opens the database, making an empty one (and its folder) where there is none. Throws std::runtime_error.
+  explicit PhotoDatabase(const std::filesystem::path& file);
+
+  std::int64_t addAlbum(std::string_view title, std::int64_t folder = 0);
+  std::int64_t addFolder(std::string_view title, std::int64_t folder = 0);
+  /// The row's own identifier is ignored; answers the new one.
+  std::int64_t addAsset(const AssetRow& asset);
+  void addToAlbum(std::int64_t asset, std::int64_t album);
+  void removeFromAlbum(std::int64_t asset, std::int64_t album);
+  void setHidden(std::int64_t asset, bool hidden);
+  void renameCollection(std::int64_t collection, std::string_view title);
+  /// A folder's contents go with it; assets stay in the library.
+  void removeCollection(std::int64_t collection);
+
+  /// In the order in which they were added.
+  std::vector<CollectionRow> collections(std::int64_t folder = 0) const;
+  std::vector<CollectionRow> allAlbums() const;
+  std::optional<CollectionRow> collection(std::int64_t identifier) const;
+  /// Oldest first, hidden ones included.
+  std::vector<AssetRow> allAssets() const;
+  std::vector<AssetRow> assetsInAlbum(std::int64_t album) const;
+  /// In the order in which the albums were added.
+  std::vector<CollectionRow> albumsContaining(std::int64_t asset) const;
+
+ private:
+  std::shared_ptr<sqlite3> connection_;
+};
+
+}  // namespace device

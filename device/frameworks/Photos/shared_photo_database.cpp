@@ -1,0 +1,12 @@
+#include "device/frameworks/Photos/shared_photo_database.hpp"
+
+#include "device/system/disk.hpp"
+
+namespace device {
+
+PhotoDatabase& sharedPhotoDatabase() {
+  static PhotoDatabase database(diskOfThisProcess().locate(kPhotoDatabasePath));
+  return database;
+}
+
+}  // namespace device

@@ -1,0 +1,186 @@
+#import "device/frameworks/PhotosUI/PUAlbumListCell.h"
+
+#include <cstdint>
+
+namespace {
+
+constexpr CGFloat kTileWidth = 163;
+constexpr CGFloat kTextHeight = 20;
+constexpr CGFloat kDeleteButtonSize = 29;
+constexpr CGFloat kStackOffset = 4;
+
+CGFloat channel(std::uint32_t color, int shift) { return ((color >> shift) & 0xff) / 255.0; }
+
+}  // namespace
+
+UIColor* PUColorOfAsset(PHAsset* asset) {
+  const std::uint32_t color = [asset _color];
+  return [UIColor colorWithRed:channel(color, 16) green:channel(color, 8) blue:channel(color, 0) alpha:1];
+}
+
+@implementation PUStackView
+
+- (void)_setColors:(NSArray*)colors {
+  for (UIView* photo in [self subviews]) [photo removeFromSuperview];
+  for (UIColor* color in [colors reverseObjectEnumerator]) {
+    UIView* photo = [[[UIView alloc] init] autorelease];
+    [photo setBackgroundColor:color];
+    [self addSubview:photo];
+  }
+}
+
+- (void)layoutSubviews {
+  [super layoutSubviews];
+  const CGSize size = [self bounds].size;
+  CGFloat inset = kStackOffset * static_cast<CGFloat>([_subviews count]);
+  for (UIView* photo in [self subviews]) {
+    inset -= kStackOffset;
+    [photo setFrame:CGRectMake(inset, inset, size.width - 2 * inset, size.height - 2 * inset)];
+  }
+}
+
+@end
+
+@implementation PXUIButton
+@end
+
+@implementation PUAlbumListCellContentView
+
+@synthesize title = _title;
+@synthesize stackView = _stackView;
+@synthesize _titleTextField = _titleTextField;
+@synthesize _subtitleLabel = _subtitleLabel;
+@synthesize _deleteButton = _deleteButton;
+@synthesize delegate = _delegate;
+@synthesize showsDeleteButtonWhileEditing = _showsDeleteButtonWhileEditing;
+
+- (id)initWithFrame:(CGRect)frame {
+  self = [super initWithFrame:frame];
+  if (!self) return nil;
+  _stackView = [[PUStackView alloc] init];
+  _titleTextField = [[UITextField alloc] init];
+  [_titleTextField setUserInteractionEnabled:NO];
+  _subtitleLabel = [[UILabel alloc] init];
+  [self addSubview:_stackView];
+  [self addSubview:_titleTextField];
+  [self addSubview:_subtitleLabel];
+  return self;
+}
+
+- (void)dealloc {
+  [_stackView release];
+  [_titleTextField release];
+  [_subtitleLabel release];
+  [_deleteButton release];
+  [_title release];
+  [super dealloc];
+}
+
+- (void)setTitle:(NSString*)title {
+  [_title autorelease];
+  _title = [title copy];
+  [_titleTextField setText:title];
+  [self setNeedsLayout];
+}
+
+- (NSString*)subtitle {
+  return [_subtitleLabel text];
+}
+
+- (void)setSubtitle:(NSString*)subtitle {
+  [_subtitleLabel setText:subtitle];
+  [self setNeedsLayout];
+}
+
+- (void)setEditing:(BOOL)editing animated:(BOOL)animated {
+  _editing = editing;
+  [_deleteButton removeFromSuperview];
+  [_deleteButton release];
+  _deleteButton = nil;
+  if (editing && _showsDeleteButtonWhileEditing) [self _addDeleteButton];
+  [self setNeedsLayout];
+}
+
+- (void)_addDeleteButton {
+  _deleteButton = [[PXUIButton buttonWithType:0] retain];
+  [_deleteButton setAccessibilityLabel:[@"Delete " stringByAppendingString:[_titleTextField text]]];
+  [_deleteButton addTarget:self
+                    action:@selector(_deleteButtonTapped:)
+          forControlEvents:UIControlEventTouchUpInside];
+  [self addSubview:_deleteButton];
+}
+
+- (void)_deleteButtonTapped:(id)sender {
+  [_delegate albumListCellContentView:self performDeleteAction:sender];
+}
+
+- (void)layoutSubviews {
+  [super layoutSubviews];
+  const CGFloat width = [self bounds].size.width;
+  [_stackView setFrame:CGRectMake(0, 0, width, width)];
+  [_titleTextField setFrame:CGRectMake(0, width + 4, width, kTextHeight)];
+  [_subtitleLabel setFrame:CGRectMake(0, width + 4 + kTextHeight, width, kTextHeight)];
+  [_deleteButton setFrame:CGRectMake(0, 0, kDeleteButtonSize, kDeleteButtonSize)];
+}
+
+- (BOOL)gestureRecognizerShouldBegin:(UIGestureRecognizer*)recognizer {
+  return YES;
+}
+
+@end
+
+@implementation PUAlbumListCell
+
+@synthesize albumListCellContentView = _albumListCellContentView;
+
+- (id)initWithFrame:(CGRect)frame {
+  self = [super initWithFrame:frame];
+  if (!self) return nil;
+  _albumListCellContentView = [[PUAlbumListCellContentView alloc] init];
+  [[self contentView] addSubview:_albumListCellContentView];
+  return self;
+}
+
+- (void)dealloc {
+  [_albumListCellContentView release];
+  [super dealloc];
+}
+
+- (void)layoutSubviews {
+  [super layoutSubviews];
+  [_albumListCellContentView setFrame:[[self contentView] bounds]];
+}
+
+@end
+
+@implementation PUAlbumListCellContentViewHelper
+
+- (CGSize)albumCellSize {
+  return CGSizeMake(kTileWidth, kTileWidth + 4 + 2 * kTextHeight);
+}
+
+- (NSString*)subtitleForCollection:(PHCollection*)collection {
+  const NSUInteger count = [collection isKindOfClass:[PHAssetCollection class]]
+                               ? [[PHAsset fetchAssetsInAssetCollection:(PHAssetCollection*)collection
+                                                                options:nil] count]
+                               : [[(PHCollectionList*)collection collections] count];
+  return [NSString stringWithFormat:@"%lu", static_cast<unsigned long>(count)];
+}
+
+- (NSArray*)_colorsOfCollection:(PHCollection*)collection {
+  NSMutableArray* colors = [NSMutableArray array];
+  if (![collection isKindOfClass:[PHAssetCollection class]]) return colors;
+  PHFetchResult* keyAssets = [PHAsset fetchKeyAssetsInAssetCollection:(PHAssetCollection*)collection
+                                                              options:nil];
+  for (PHAsset* asset in keyAssets) [colors addObject:PUColorOfAsset(asset)];
+  return colors;
+}
+
+- (void)_fill:(PUAlbumListCellContentView*)tile with:(PHCollection*)collection {
+  [tile setTitle:[collection localizedTitle]];
+  [[tile stackView] _setColors:[self _colorsOfCollection:collection]];
+  // Only what the owner made can be deleted.
+  [tile setShowsDeleteButtonWhileEditing:[collection _identifier] != 0];
+}
+
+@end

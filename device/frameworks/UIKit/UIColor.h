@@ -1,0 +1,22 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+@interface UIColor : NSObject {
+  CGFloat _red, _green, _blue, _alpha;
+}
++ (UIColor*)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
++ (UIColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
++ (UIColor*)clearColor;
++ (UIColor*)whiteColor;
++ (UIColor*)blackColor;
++ (UIColor*)lightGrayColor;
+- (BOOL)getRed:(CGFloat*)red green:(CGFloat*)green blue:(CGFloat*)blue alpha:(CGFloat*)alpha;
+@end
+
+@interface UIFont : NSObject {
+  CGFloat _pointSize;
+}
++ (UIFont*)systemFontOfSize:(CGFloat)size;
+@property(nonatomic, readonly) CGFloat pointSize;
+@end

@@ -1,0 +1,64 @@
+#pragma once
+
+#import "device/frameworks/UIKit/UIImage.h"
+#import "device/frameworks/UIKit/UIView.h"
+
+enum UIControlEvents : NSUInteger {
+  UIControlEventTouchUpInside = 1 << 6,
+  UIControlEventEditingChanged = 1 << 17,
+};
+
+@interface UILabel : UIView {
+  NSString* _text;
+  UIFont* _font;
+  UIColor* _textColor;
+  NSInteger _textAlignment;
+  NSInteger _numberOfLines;
+  CGFloat _minimumScaleFactor;
+  BOOL _adjustsFontSizeToFitWidth;
+}
+@property(nonatomic, copy) NSString* text;
+@property(nonatomic, retain) UIFont* font;
+@property(nonatomic, retain) UIColor* textColor;
+@property(nonatomic) NSInteger textAlignment;
+@property(nonatomic) NSInteger numberOfLines;
+@property(nonatomic) CGFloat minimumScaleFactor;
+@property(nonatomic) BOOL adjustsFontSizeToFitWidth;
+@end
+
+/// Its targets are not retained.
+@interface UIControl : UIView {
+  NSMutableArray* _targets;
+  BOOL _enabled;
+}
+@property(nonatomic, getter=isEnabled) BOOL enabled;
+- (void)addTarget:(id)target action:(SEL)action forControlEvents:(NSUInteger)events;
+- (void)sendActionsForControlEvents:(NSUInteger)events;
+@end
+
+@interface UIButton : UIControl {
+  NSString* _currentTitle;
+  UIImage* _currentImage;
+}
++ (id)buttonWithType:(NSInteger)type;
+/// One title and one image serve all states.
+- (void)setTitle:(NSString*)title forState:(NSUInteger)state;
+- (void)setImage:(UIImage*)image forState:(NSUInteger)state;
+@property(nonatomic, readonly) NSString* currentTitle;
+@property(nonatomic, readonly) UIImage* currentImage;
+@end
+
+@interface UITextField : UIControl {
+  NSString* _text;
+  NSString* _placeholder;
+  UIFont* _font;
+  UIColor* _textColor;
+  BOOL _secureTextEntry;
+}
+/// Never nil.
+@property(nonatomic, copy) NSString* text;
+@property(nonatomic, copy) NSString* placeholder;
+@property(nonatomic, retain) UIFont* font;
+@property(nonatomic, retain) UIColor* textColor;
+@property(nonatomic, getter=isSecureTextEntry) BOOL secureTextEntry;
+@end

@@ -1,0 +1,27 @@
+#pragma once
+
+#import "device/frameworks/UIKit/CoreGraphics.h"
+
+enum UIUserInterfaceIdiom : NSInteger { UIUserInterfaceIdiomPhone = 0, UIUserInterfaceIdiomPad = 1 };
+
+@interface UIScreen : NSObject
++ (UIScreen*)mainScreen;
+/// In points.
+- (CGRect)bounds;
+@end
+
+@interface _UITapticEngine : NSObject {
+  NSMutableArray* _felt;
+}
+- (void)actuateFeedback:(NSInteger)feedback;
+/// The NSNumbers of all feedback so far, oldest first.
+- (NSArray*)_feltFeedback;
+@end
+
+@interface UIDevice : NSObject {
+  _UITapticEngine* _tapticEngine;
+}
++ (UIDevice*)currentDevice;
+- (NSInteger)userInterfaceIdiom;
+- (_UITapticEngine*)_tapticEngine;
+@end

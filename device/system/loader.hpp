@@ -1,0 +1,9 @@
+#pragma once
+
+namespace device {
+
+/// Loads every library in /Library/MobileSubstrate/DynamicLibraries whose filter names this process: its
+/// bundle, a framework that it links, or a class that it has. One that cannot be loaded is told on the log.
+void loadInjectedLibraries();
+
+}  // namespace device

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace device {
+
+inline constexpr std::chrono::milliseconds kPatience{10'000};
+
+/// How the phone's owner meets a request for Touch ID or the passcode.
+enum class OwnerAnswer { success, failure, cancel };
+
+/// An alert or action sheet as a person reads it.
+struct AlertText {
+  std::string title;
+  std::string message;
+  /// "Password" for a plain field with that placeholder, "Password (secure)" for one that hides its text.
+  std::vector<std::string> fields;
+  /// In the order in which they were added.
+  std::vector<std::string> buttons;
+};
+
+/// Somebody who holds the phone and uses one of its apps: in this process, or in another one over the
+/// app's control socket. Every step that cannot be done (nothing of that name on screen, no alert, patience
+/// lost) throws std::runtime_error, whose text ends with what was on screen.
+class User {
+ public:
+  /// Carries one command to an app and brings back its answer.
+  using Hands = std::function<std::string(const std::vector<std::string>& command)>;
+  explicit User(Hands hands);
+
+  /// The user of the app that this very process is. Main thread only: each step runs the run loop.
+  static User here();
+
+  /// Touches what bears the text: a button of the alert in front, else a tile, a tab, a bar button, a view.
+  void tap(std::string_view text) const;
+  /// Holds a finger on it for as long as its long-press recognizer asks, and lifts it.
+  void longPress(std::string_view text) const;
+  /// Types into the text field of the alert in front, or the first one on screen, replacing its text.
+  void type(std::string_view text) const;
+  /// Taps the navigation bar's back button.
+  void back() const;
+  /// Presses the home button; returns to the app from the home screen.
+  void leaveApp() const;
+  void returnToApp() const;
+
+  AlertText alert() const;
+  bool hasAlert() const;
+
+  /// Whether the text is on screen, as the whole text of some visible view, bar, button or alert.
+  bool sees(std::string_view text) const;
+  /// Runs the app until the text is (or is no longer) on screen.
+  void waitToSee(std::string_view text, std::chrono::milliseconds patience = kPatience) const;
+  void waitUntilGone(std::string_view text, std::chrono::milliseconds patience = kPatience) const;
+
+  /// What is on screen: the visible view tree as indented lines `Class "text" (x y width height)`.
+  std::string screen() const;
+
+  /// The haptic feedback codes felt so far, oldest first.
+  std::vector<int> feltFeedback() const;
+
+  /// SpringBoard only. The reason shown by the sheet that asks for the owner, "" without one; waiting for
+  /// one; answering it (throws without one); whether the phone has a passcode at all (it has, at first).
+  std::string ownerRequest() const;
+  void waitForOwnerRequest(std::chrono::milliseconds patience = kPatience) const;
+  void answerOwnerRequest(OwnerAnswer answer) const;
+  void setPasscode(bool present) const;
+
+ private:
+  std::string perform(std::vector<std::string> command) const;
+  Hands hands_;
+};
+
+/// Performs one command of `User` in this process's app, running the run loop as needed. Main thread only.
+std::string performHere(const std::vector<std::string>& command);
+
+}  // namespace device
