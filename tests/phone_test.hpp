@@ -1,0 +1,107 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+#include <sys/inotify.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "device/device.hpp"
+#include "device/system/process.hpp"
+#include "device/system/run_loop.hpp"
+
+namespace velvault12 {
+
+/// A folder of its own that goes with it.
+class TemporaryFolder {
+ public:
+  TemporaryFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "phone-XXXXXX").string();
+    path_ = mkdtemp(name.data());
+  }
+  ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  const std::filesystem::path& path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// Makes each change to a folder's files an event of the main thread's run loop.
+class FolderEvents {
+ public:
+  explicit FolderEvents(const std::filesystem::path& folder) {
+    inotify_add_watch(descriptor_, folder.c_str(), IN_MOVED_TO | IN_CREATE | IN_CLOSE_WRITE | IN_DELETE);
+  }
+  ~FolderEvents() {
+    watch_.reset();
+    close(descriptor_);
+  }
+  FolderEvents(const FolderEvents&) = delete;
+  FolderEvents& operator=(const FolderEvents&) = delete;
+
+ private:
+  void drain() const {
+    char events[4096];
+    while (read(descriptor_, events, sizeof events) > 0) continue;
+  }
+
+  int descriptor_ = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+  std::optional<device::Watch> watch_{std::in_place, descriptor_, [this] { drain(); }};
+};
+
+/// A phone with the library installed, whose folder goes with the test. The test's own process may become one
+/// of its apps, once: ctest runs each case in a process of its own.
+class PhoneTest : public ::testing::Test {
+ protected:
+  static constexpr std::string_view kStateFolder = "/var/mobile/Library/velvault";
+  static constexpr std::string_view kLockedAlbums = "/var/mobile/Library/velvault/lockedAlbums.plist";
+  static constexpr std::string_view kPassword = "/var/mobile/Library/velvault/settings.tct";
+  static constexpr std::string_view kAnswer = "/var/mobile/Library/velvault/authenticate.plist";
+  static constexpr std::string_view kAnswered = "com.qdx.VVAuthenticate";
+  static constexpr std::string_view kReload = "com.qdx.velvault12prefs/reloadPrefs";
+
+  using Titles = std::vector<std::string>;
+
+  PhoneTest() { phone_.install(VELVAULT12_LIBRARY, VELVAULT12_FILTER); }
+
+  void write(std::string_view phonePath, std::string_view bytes) const {
+    const std::filesystem::path path = phone_.onDisk(phonePath);
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << bytes;
+  }
+  /// A property list file that holds an array of strings.
+  void writeStrings(std::string_view phonePath, const Titles& strings) const {
+    std::string list = "(";
+    for (const std::string& string : strings) list += (list.size() == 1 ? "\"" : ", \"") + string + "\"";
+    write(phonePath, list + ")");
+  }
+  bool hasFile(std::string_view phonePath) const { return std::filesystem::exists(phone_.onDisk(phonePath)); }
+  void remove(std::string_view phonePath) const { std::filesystem::remove_all(phone_.onDisk(phonePath)); }
+
+  /// Runs this process's app until the condition holds.
+  static bool soon(const std::function<bool()>& condition) {
+    return device::runUntil(condition, device::kPatience);
+  }
+  bool soonLocked(const Titles& titles) const {
+    const FolderEvents events(phone_.onDisk(kStateFolder));
+    return soon([&] { return phone_.strings(kLockedAlbums) == titles; });
+  }
+
+ private:
+  TemporaryFolder folder_;
+
+ protected:
+  device::Device phone_{folder_.path() / "phone"};
+};
+
+}  // namespace velvault12
