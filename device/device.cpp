@@ -92,7 +92,7 @@ void App::kill() {
   process_ = -1;
 }
 
-Device::Device(fs::path folder) : folder_(fs::absolute(std::move(folder)).lexically_normal()) {
+Device::Device(const fs::path& folder) : folder_(fs::absolute(folder).lexically_normal()) {
   fs::remove_all(folder_);
   for (const char* path :
        {"disk/var/mobile/Library/Preferences", "disk/Library/MobileSubstrate/DynamicLibraries",

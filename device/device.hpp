@@ -39,7 +39,7 @@ class App {
 class Device {
  public:
   /// A new phone in `folder`, which is emptied first: an empty photo library, nothing installed.
-  explicit Device(std::filesystem::path folder);
+  explicit Device(const std::filesystem::path& folder);
 
   const std::filesystem::path& folder() const { return folder_; }
   /// Where a path of the phone ("/var/mobile/...", "/private/var/...", "/Library/...") lies on this machine.

@@ -27,9 +27,8 @@ void startApp(std::string_view bundleIdentifier) {
   if (app == std::end(kInstalledApps)) {
     throw std::runtime_error("no app " + std::string(bundleIdentifier) + " on this phone");
   }
-  // The application lives as long as its process.
-  UIApplication* application =
-      [[NSClassFromString([NSString stringWithUTF8String:app->applicationClass]) alloc] init];
+  const Class applicationClass = NSClassFromString([NSString stringWithUTF8String:app->applicationClass]);
+  UIApplication* application = [[[applicationClass alloc] init] autorelease];
   [application applicationDidFinishLaunching:application];
   [application _layoutWindows];
 }

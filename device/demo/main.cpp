@@ -162,7 +162,7 @@ void lockAndOpen(Story& story, Phone& phone) {
   story.step("You leave it at that. \"Pets\" was never locked: you tap it.", [&] {
     phone.owner().answerOwnerRequest(OwnerAnswer::cancel);
     photos.tap("Pets");
-    const std::string open = showsOpenAlbum(photos, "Pets");
+    std::string open = showsOpenAlbum(photos, "Pets");
     photos.back();
     return open;
   });
@@ -222,7 +222,7 @@ void removeLock(Story& story, Phone& phone) {
   });
   story.step("You tap it.", [&] {
     photos.tap("Holidays");
-    const std::string open = showsOpenAlbum(photos, "Holidays");
+    std::string open = showsOpenAlbum(photos, "Holidays");
     photos.back();
     return open;
   });

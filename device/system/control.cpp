@@ -28,7 +28,7 @@ fs::path socketOf(const fs::path& deviceFolder, pid_t app) {
 // Each word is ended by a zero byte, which none contains.
 std::string joined(const std::vector<std::string>& command) {
   std::string frame;
-  for (const std::string& word : command) frame.append(word.c_str()).push_back('\0');
+  for (const std::string& word : command) frame.append(word, 0, word.find('\0')).push_back('\0');
   return frame;
 }
 
@@ -53,7 +53,7 @@ std::string perform(const fs::path& socket, pid_t app, const std::vector<std::st
   std::optional<std::string> answer;
   if (connection && sendFrame(connection.get(), joined(command))) answer = receiveFrame(connection.get());
   if (!answer || answer->empty()) throw std::runtime_error(endOf(app));
-  const std::string text = answer->substr(1);
+  std::string text = answer->substr(1);
   if (answer->front() == kError) throw std::runtime_error(text);
   return text;
 }

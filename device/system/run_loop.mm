@@ -60,7 +60,10 @@ struct Watch::Source {
   Source(const Source&) = delete;
   Source& operator=(const Source&) = delete;
 
-  void* data() const { return reinterpret_cast<void*>(static_cast<std::intptr_t>(descriptor)); }
+  void* data() const {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the run loop takes a descriptor as a pointer
+    return reinterpret_cast<void*>(static_cast<std::intptr_t>(descriptor));
+  }
 
   int descriptor;
   std::function<void()> readable;

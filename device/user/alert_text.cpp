@@ -16,11 +16,11 @@ void append(std::string& encoded, char kind, std::string_view text) {
   encoded.append(1, kind).append(text).append(1, kEnd);
 }
 
-void take(AlertText& alert, char kind, std::string text) {
-  if (kind == kTitle) alert.title = std::move(text);
-  if (kind == kMessage) alert.message = std::move(text);
-  if (kind == kField) alert.fields.push_back(std::move(text));
-  if (kind == kButton) alert.buttons.push_back(std::move(text));
+void take(AlertText& alert, char kind, const std::string& text) {
+  if (kind == kTitle) alert.title = text;
+  if (kind == kMessage) alert.message = text;
+  if (kind == kField) alert.fields.push_back(text);
+  if (kind == kButton) alert.buttons.push_back(text);
 }
 
 }  // namespace

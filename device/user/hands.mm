@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <map>
 #include <stdexcept>
 
@@ -92,9 +93,13 @@ UIView* scrolledTo(UIScrollView* scrollView, std::string_view text) {
                        std::max(content.height - page.height, 0.0)};
   const CGPoint start = [scrollView contentOffset];
   if (end.x == 0 && end.y == 0) return nil;
-  for (CGFloat y = 0; y < end.y + page.height / 2; y += page.height / 2) {
-    for (CGFloat x = 0; x < end.x + page.width / 2; x += page.width / 2) {
-      [scrollView _dragToContentOffset:{std::min(x, end.x), std::min(y, end.y)}];
+  const CGSize step = {page.width / 2, page.height / 2};
+  const int rows = 1 + static_cast<int>(std::ceil(end.y / step.height));
+  const int columns = 1 + static_cast<int>(std::ceil(end.x / step.width));
+  for (int row = 0; row < rows; ++row) {
+    for (int column = 0; column < columns; ++column) {
+      [scrollView
+          _dragToContentOffset:{std::min(column * step.width, end.x), std::min(row * step.height, end.y)}];
       [scrollView layoutIfNeeded];
       if (UIView* found = reachable(text)) return found;
     }

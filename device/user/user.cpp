@@ -28,7 +28,7 @@ User::User(Hands hands) : hands_(std::move(hands)) {}
 
 User User::here() { return User(performHere); }
 
-std::string User::perform(std::vector<std::string> command) const { return hands_(command); }
+std::string User::perform(const std::vector<std::string>& command) const { return hands_(command); }
 
 void User::tap(std::string_view text) const { perform({"tap", std::string(text)}); }
 void User::longPress(std::string_view text) const { perform({"longPress", std::string(text)}); }

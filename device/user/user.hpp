@@ -70,7 +70,7 @@ class User {
   void setPasscode(bool present) const;
 
  private:
-  std::string perform(std::vector<std::string> command) const;
+  std::string perform(const std::vector<std::string>& command) const;
   Hands hands_;
 };
 

@@ -93,7 +93,8 @@ UIApplication* theApplication = nil;
   self = [super init];
   if (!self) return nil;
   _windows = new UIApplicationWindows;
-  theApplication = self;
+  // For as long as the process lives.
+  theApplication = [self retain];
   return self;
 }
 
