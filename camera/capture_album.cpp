@@ -1,7 +1,5 @@
 #include "camera/capture_album.hpp"
 
-#include <vector>
-
 #include "host/process_wide.hpp"
 #include "startup/settings.hpp"
 #include "startup/shared_files.hpp"
@@ -9,9 +7,7 @@
 namespace velvault12 {
 
 void CaptureAlbum::readAtStart() {
-  const std::vector<std::string> remembered =
-      readStrings(kCaptureAlbumFile).value_or(std::vector<std::string>());
-  title_ = captureAlbumAtStart(remembered, settings().rememberDefault);
+  title_ = captureAlbumAtStart(readFirstString(kCaptureAlbumFile), settings().rememberDefault);
 }
 
 CaptureAlbum& captureAlbum() { return processWide<CaptureAlbum>(); }

@@ -2,9 +2,8 @@
 
 namespace velvault12 {
 
-std::string captureAlbumAtStart(const std::vector<std::string>& remembered, bool rememberDefault) {
-  if (remembered.empty() || !rememberDefault) return std::string(kCameraRoll);
-  return remembered.front();
+std::string captureAlbumAtStart(const std::optional<std::string>& remembered, bool rememberDefault) {
+  return remembered && rememberDefault ? *remembered : std::string(kCameraRoll);
 }
 
 }  // namespace velvault12

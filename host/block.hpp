@@ -3,6 +3,7 @@
 #include <new>
 #include <utility>
 
+#include "host/encoding.hpp"
 #include "host/runtime.hpp"
 
 extern "C" {
@@ -53,8 +54,11 @@ class BlockLiteral<Result(Parameters...), Callable> {
     unsigned long size;
     void (*copy)(void* to, const void* from);
     void (*dispose)(const void* block);
+    const char* signature;
   };
   static constexpr int kHasCopyDispose = 1 << 25;
+  /// Without a signature the host cannot send a block on to another process.
+  static constexpr int kHasSignature = 1 << 30;
 
   static typename Wire<Result>::Type invoke(void* block, typename Wire<Parameters>::Type... arguments) {
     auto& callable = static_cast<BlockLiteral*>(block)->callable_;
@@ -70,10 +74,11 @@ class BlockLiteral<Result(Parameters...), Callable> {
   }
   static void dispose(const void* block) { static_cast<const BlockLiteral*>(block)->callable_.~Callable(); }
 
-  static constexpr Descriptor kDescriptor{0, sizeof(BlockLiteral), copy, dispose};
+  static constexpr auto kSignature = blockEncoding<Result, Parameters...>();
+  static constexpr Descriptor kDescriptor{0, sizeof(BlockLiteral), copy, dispose, kSignature.data()};
 
   void* isa_ = _NSConcreteStackBlock;
-  int flags_ = kHasCopyDispose;
+  int flags_ = kHasCopyDispose | kHasSignature;
   int reserved_ = 0;
   typename Wire<Result>::Type (*invoke_)(void*, typename Wire<Parameters>::Type...) = invoke;
   const Descriptor* descriptor_ = &kDescriptor;

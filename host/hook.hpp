@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "host/core_graphics.hpp"
+#include "host/encoding.hpp"
 #include "host/runtime.hpp"
 
 namespace velvault12 {
@@ -80,19 +80,6 @@ struct Replacement<Function, Result (*)(Receiver, Replaced<Result(Parameters...)
     replaceMethod(row, Owner, reinterpret_cast<IMP>(&call), &slot);
   }
 };
-
-/// Of a parameter of an added method; empty for a type that none has.
-template <class T>
-inline constexpr std::string_view kEncoding;
-template <class T>
-requires std::is_base_of_v<Object, T>
-inline constexpr std::string_view kEncoding<T> = "@";
-template <>
-inline constexpr std::string_view kEncoding<int> = "i";
-template <>
-inline constexpr std::string_view kEncoding<bool> = "B";
-template <>
-inline constexpr std::string_view kEncoding<CGSize> = "{CGSize=dd}";
 
 template <auto Function, class Type = decltype(Function)>
 struct Addition;

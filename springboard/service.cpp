@@ -27,6 +27,8 @@ void answer(NSMutableDictionary request, bool success) {
 
 void askOwner(const Ref<LAContext>& context, const Ref<NSMutableDictionary>& request,
               const std::string& reason) {
+  // A process without the framework cannot tell whether there is an owner to ask: the album stays closed.
+  if (!context) return;
   if (!context->canEvaluatePolicy(kDeviceOwnerAuthentication)) {
     answer(request.get(), false);
     return;

@@ -1,7 +1,5 @@
 #include "startup/settings_rules.hpp"
 
-#include <variant>
-
 namespace velvault12 {
 
 namespace {
@@ -9,80 +7,80 @@ namespace {
 constexpr std::string_view kAlbumFlagMark = "albumName";
 constexpr int kDefaultFontSize = 14;
 
-struct BoolSetting {
-  bool Settings::*member;
-  bool byDefault;
-};
-struct IntSetting {
-  int Settings::*member;
-  int byDefault;
-};
+/// One key: a switch or a number, whichever member it has.
 struct SettingRow {
   std::string_view key;
-  std::variant<BoolSetting, IntSetting> setting;
+  bool Settings::*flag;
+  int Settings::*number;
+  int byDefault;
 };
+
+constexpr SettingRow row(std::string_view key, bool Settings::*flag, bool byDefault) {
+  return {key, flag, nullptr, byDefault ? 1 : 0};
+}
+
+constexpr SettingRow row(std::string_view key, int Settings::*number, int byDefault) {
+  return {key, nullptr, number, byDefault};
+}
 
 constexpr bool YES = true;
 constexpr bool NO = false;
 
 constexpr SettingRow kRows[] = {
-    {"enabled", BoolSetting{&Settings::enabled, YES}},
-    {"showDeleted", BoolSetting{&Settings::showDeleted, YES}},
-    {"showFavourites", BoolSetting{&Settings::showFavourites, YES}},
-    {"showPlaces", BoolSetting{&Settings::showPlaces, YES}},
-    {"showPeople", BoolSetting{&Settings::showPeople, YES}},
-    {"showVideos", BoolSetting{&Settings::showVideos, YES}},
-    {"showSelfies", BoolSetting{&Settings::showSelfies, YES}},
-    {"showPanoramas", BoolSetting{&Settings::showPanoramas, YES}},
-    {"showTimelapse", BoolSetting{&Settings::showTimelapse, YES}},
-    {"showSlowmo", BoolSetting{&Settings::showSlowmo, YES}},
-    {"showBursts", BoolSetting{&Settings::showBursts, YES}},
-    {"showScreenshots", BoolSetting{&Settings::showScreenshots, YES}},
-    {"showHidden", BoolSetting{&Settings::showHidden, NO}},
-    {"showPortrait", BoolSetting{&Settings::showPortrait, YES}},
-    {"showAnimated", BoolSetting{&Settings::showAnimated, YES}},
-    {"showLive", BoolSetting{&Settings::showLive, YES}},
-    {"showExposure", BoolSetting{&Settings::showExposure, YES}},
-    {"showRecordings", BoolSetting{&Settings::showRecordings, YES}},
-    {"showRAW", BoolSetting{&Settings::showRAW, YES}},
-    {"showImports", BoolSetting{&Settings::showImports, YES}},
-    {"showTabMoments", BoolSetting{&Settings::showTabMoments, YES}},
-    {"showTabMemories", BoolSetting{&Settings::showTabMemories, YES}},
-    {"showTabShared", BoolSetting{&Settings::showTabShared, YES}},
-    {"showTabAlbums", BoolSetting{&Settings::showTabAlbums, YES}},
-    {"layoutShowTitle", BoolSetting{&Settings::layoutShowTitle, YES}},
-    {"layoutShowSubtitle", BoolSetting{&Settings::layoutShowSubtitle, YES}},
-    {"layoutFontSize", IntSetting{&Settings::layoutFontSize, kDefaultFontSize}},
-    {"passOption", IntSetting{&Settings::passOption, 0}},
-    {"hideRollAlbum", BoolSetting{&Settings::hideRollAlbum, NO}},
-    {"hideRollScreenshots", BoolSetting{&Settings::hideRollScreenshots, NO}},
-    {"hideLockedFromApps", BoolSetting{&Settings::hideLockedFromApps, YES}},
-    {"hideHiddenStock", BoolSetting{&Settings::hideHiddenStock, NO}},
-    {"skipDelete", BoolSetting{&Settings::skipDelete, NO}},
-    {"reorderStock", BoolSetting{&Settings::reorderStock, NO}},
-    {"showLiveBadge", BoolSetting{&Settings::showLiveBadge, NO}},
-    {"increaseZoom", BoolSetting{&Settings::increaseZoom, NO}},
-    {"enableCameraPicker", BoolSetting{&Settings::enableCameraPicker, YES}},
-    {"rememberDefault", BoolSetting{&Settings::rememberDefault, NO}},
-    {"showLockedinCamera", BoolSetting{&Settings::showLockedinCamera, NO}},
-    {"returnToMainLocked", BoolSetting{&Settings::returnToMainLocked, YES}},
-    {"returnToMainDefault", BoolSetting{&Settings::returnToMainDefault, NO}},
-    {"pickerMovePhotos", BoolSetting{&Settings::pickerMovePhotos, YES}},
-    {"showSharedAlbums", BoolSetting{&Settings::showSharedAlbums, YES}},
-    {"showPeopleAnd", BoolSetting{&Settings::showPeopleAnd, YES}},
-    {"showMediaTypes", BoolSetting{&Settings::showMediaTypes, YES}},
-    {"showOtherAlbums", BoolSetting{&Settings::showOtherAlbums, YES}},
-    {"hideFoldersInApps", BoolSetting{&Settings::hideFoldersInApps, YES}},
-    {"shrinkAlbums", BoolSetting{&Settings::shrinkAlbums, NO}},
-    {"startAtBottom", BoolSetting{&Settings::startAtBottom, NO}},
+    row("enabled", &Settings::enabled, YES),
+    row("showDeleted", &Settings::showDeleted, YES),
+    row("showFavourites", &Settings::showFavourites, YES),
+    row("showPlaces", &Settings::showPlaces, YES),
+    row("showPeople", &Settings::showPeople, YES),
+    row("showVideos", &Settings::showVideos, YES),
+    row("showSelfies", &Settings::showSelfies, YES),
+    row("showPanoramas", &Settings::showPanoramas, YES),
+    row("showTimelapse", &Settings::showTimelapse, YES),
+    row("showSlowmo", &Settings::showSlowmo, YES),
+    row("showBursts", &Settings::showBursts, YES),
+    row("showScreenshots", &Settings::showScreenshots, YES),
+    row("showHidden", &Settings::showHidden, NO),
+    row("showPortrait", &Settings::showPortrait, YES),
+    row("showAnimated", &Settings::showAnimated, YES),
+    row("showLive", &Settings::showLive, YES),
+    row("showExposure", &Settings::showExposure, YES),
+    row("showRecordings", &Settings::showRecordings, YES),
+    row("showRAW", &Settings::showRAW, YES),
+    row("showImports", &Settings::showImports, YES),
+    row("showTabMoments", &Settings::showTabMoments, YES),
+    row("showTabMemories", &Settings::showTabMemories, YES),
+    row("showTabShared", &Settings::showTabShared, YES),
+    row("showTabAlbums", &Settings::showTabAlbums, YES),
+    row("layoutShowTitle", &Settings::layoutShowTitle, YES),
+    row("layoutShowSubtitle", &Settings::layoutShowSubtitle, YES),
+    row("layoutFontSize", &Settings::layoutFontSize, kDefaultFontSize),
+    row("passOption", &Settings::passOption, 0),
+    row("hideRollAlbum", &Settings::hideRollAlbum, NO),
+    row("hideRollScreenshots", &Settings::hideRollScreenshots, NO),
+    row("hideLockedFromApps", &Settings::hideLockedFromApps, YES),
+    row("hideHiddenStock", &Settings::hideHiddenStock, NO),
+    row("skipDelete", &Settings::skipDelete, NO),
+    row("reorderStock", &Settings::reorderStock, NO),
+    row("showLiveBadge", &Settings::showLiveBadge, NO),
+    row("increaseZoom", &Settings::increaseZoom, NO),
+    row("enableCameraPicker", &Settings::enableCameraPicker, YES),
+    row("rememberDefault", &Settings::rememberDefault, NO),
+    row("showLockedinCamera", &Settings::showLockedinCamera, NO),
+    row("returnToMainLocked", &Settings::returnToMainLocked, YES),
+    row("returnToMainDefault", &Settings::returnToMainDefault, NO),
+    row("pickerMovePhotos", &Settings::pickerMovePhotos, YES),
+    row("showSharedAlbums", &Settings::showSharedAlbums, YES),
+    row("showPeopleAnd", &Settings::showPeopleAnd, YES),
+    row("showMediaTypes", &Settings::showMediaTypes, YES),
+    row("showOtherAlbums", &Settings::showOtherAlbums, YES),
+    row("hideFoldersInApps", &Settings::hideFoldersInApps, YES),
+    row("shrinkAlbums", &Settings::shrinkAlbums, NO),
+    row("startAtBottom", &Settings::startAtBottom, NO),
 };
 
-void apply(Settings& settings, const BoolSetting& setting, const PreferenceValue& value) {
-  settings.*setting.member = value.asBool.value_or(setting.byDefault);
-}
-
-void apply(Settings& settings, const IntSetting& setting, const PreferenceValue& value) {
-  settings.*setting.member = value.asInt.value_or(setting.byDefault);
+void apply(Settings& settings, const SettingRow& row, const PreferenceValue& value) {
+  if (row.flag != nullptr) settings.*row.flag = value.asBool.value_or(row.byDefault != 0);
+  if (row.number != nullptr) settings.*row.number = value.asInt.value_or(row.byDefault);
 }
 
 void collectAlbumFlags(Settings& settings, const Preferences& preferences) {
@@ -97,8 +95,7 @@ void collectAlbumFlags(Settings& settings, const Preferences& preferences) {
 void applyPreferences(Settings& settings, const Preferences& preferences) {
   for (const SettingRow& row : kRows) {
     const auto found = preferences.find(std::string(row.key));
-    const PreferenceValue value = found == preferences.end() ? PreferenceValue() : found->second;
-    std::visit([&](const auto& setting) { apply(settings, setting, value); }, row.setting);
+    apply(settings, row, found == preferences.end() ? PreferenceValue() : found->second);
   }
   collectAlbumFlags(settings, preferences);
   const bool showsText = settings.layoutShowTitle || settings.layoutShowSubtitle;

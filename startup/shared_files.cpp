@@ -11,6 +11,12 @@ std::optional<std::vector<std::string>> readStrings(std::string_view path) {
   return file->strings();
 }
 
+std::optional<std::string> readFirstString(std::string_view path) {
+  const Ref<NSArray> file = NSArray::contentsOfFile(path);
+  if (file->count() == 0) return std::nullopt;
+  return stringValue(file->objectAtIndex(0));
+}
+
 void saveArray(const std::vector<std::string>& strings, std::string_view path) {
   const Ref<NSMutableDictionary> request = makeObject<NSMutableDictionary>();
   request->set(key::kSender, NSBundle::mainBundle().bundleIdentifier());

@@ -34,6 +34,9 @@ inline constexpr const char* kAnswerNotification = "com.qdx.VVAuthenticate";
 /// holds something else. Read afresh at each call: any process may have had it rewritten.
 std::optional<std::vector<std::string>> readStrings(std::string_view path);
 
+/// The first element of such a file; nothing when there is none or it is no string.
+std::optional<std::string> readFirstString(std::string_view path);
+
 /// Has SpringBoard replace the whole file. Nothing waits for it, and without SpringBoard's service nothing is
 /// saved.
 void saveArray(const std::vector<std::string>& strings, std::string_view path);

@@ -8,7 +8,9 @@ namespace velvault12 {
 namespace {
 
 NSString titleAt(PUHorizontalAlbumListGadget strip, NSIndexPath path) {
-  return albumTile(strip.gadgetAtIndexPath(path)).title();
+  const Object gadget = strip.gadgetAtIndexPath(path);
+  const auto tile = albumTile(gadget);
+  return tile ? tile.title() : gadget.trySend<"title", NSString()>();
 }
 
 NSString titleAt(PUAlbumListViewController list, NSIndexPath path) {

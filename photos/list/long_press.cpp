@@ -4,6 +4,7 @@
 
 #include "photos/list/album_lock.hpp"
 #include "photos/list/authentication_request.hpp"
+#include "startup/settings.hpp"
 
 namespace velvault12 {
 
@@ -20,7 +21,7 @@ bool actsIn(UIGestureRecognizer::State state) {
 }
 
 void makePressable(PUAlbumListCellContentView tile, UIViewController target) {
-  if (!tile || tile.gestureRecognizers().count() > 0) return;
+  if (!settings().enabled || !tile || tile.gestureRecognizers().count() > 0) return;
   const auto recognizer = UILongPressGestureRecognizer::make(target, selector<"handleLongPress:">());
   recognizer->setMinimumPressDuration(kPressSeconds);
   tile.addGestureRecognizer(recognizer.get());

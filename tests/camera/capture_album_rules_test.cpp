@@ -6,10 +6,10 @@ namespace velvault12 {
 namespace {
 
 TEST(CaptureAlbum, StartsWithTheRememberedOneOnlyWhenWanted) {
-  EXPECT_EQ(captureAlbumAtStart({"Pets", "Holidays"}, true), "Pets");
-  EXPECT_EQ(captureAlbumAtStart({"Pets"}, false), "Camera Roll");
-  EXPECT_EQ(captureAlbumAtStart({}, true), "Camera Roll");
-  EXPECT_EQ(captureAlbumAtStart({""}, true), "");
+  EXPECT_EQ(captureAlbumAtStart("Pets", true), "Pets");
+  EXPECT_EQ(captureAlbumAtStart("Pets", false), "Camera Roll");
+  EXPECT_EQ(captureAlbumAtStart(std::nullopt, true), "Camera Roll");
+  EXPECT_EQ(captureAlbumAtStart("", true), "");
 }
 
 }  // namespace

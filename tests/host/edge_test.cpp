@@ -28,8 +28,7 @@ class Edge : public ::testing::Test {
 NSUInteger references(Object object) { return object.send<"retainCount", NSUInteger()>(); }
 
 TEST_F(Edge, TextCrossesUnchanged) {
-  for (const std::string& text :
-       {""s, "Holidays"s, "Caf\u00e9 \u2603 \U0001F512"s, "a\0b"s}) {
+  for (const std::string& text : {""s, "Holidays"s, "Caf\u00e9 \u2603 \U0001F512"s, "a\0b"s}) {
     EXPECT_EQ(NSString::from(text).utf8(), text);
   }
   EXPECT_EQ(NSString().utf8(), "");
