@@ -3,6 +3,7 @@
 #import <Foundation/Foundation.h>
 #include <objc/runtime.h>
 
+#include "device/frameworks/installed_hooks.hpp"
 #include "device/system/method_replacement.hpp"
 
 namespace device {

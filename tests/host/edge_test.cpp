@@ -92,7 +92,13 @@ TEST_F(Edge, ABlockThatTheHostKeepsOwnsItsCaptures) {
     void* isa;
     int flags, reserved;
     void (*invoke)(void*, ObjcBool, id);
+    const struct {
+      unsigned long reserved, size;
+      void *copy, *dispose;
+      const char* signature;
+    } * descriptor;
   };
+  EXPECT_STREQ(static_cast<Layout*>(kept)->descriptor->signature, "v@?B@");
   static_cast<Layout*>(kept)->invoke(kept, 1, nullptr);
   static_cast<Layout*>(kept)->invoke(kept, 0, nullptr);
   EXPECT_EQ(*captured, 11);

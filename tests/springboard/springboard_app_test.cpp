@@ -105,8 +105,13 @@ TEST_F(SpringBoardApp, TheOwnerIsAskedByNameAndOnlySuccessIsAnswered) {
     me_.answerOwnerRequest(silent);
     expectSilence();
   }
-  authenticate(request(1, NSString::from("Holidays")).get());
+  {
+    const AutoreleasePool turn;
+    authenticate(request(1, NSString::from("Holidays")).get());
+    authenticate(request(1, NSString::from("Holidays")).get());
+  }
   me_.answerOwnerRequest(OwnerAnswer::success);
+  me_.answerOwnerRequest(OwnerAnswer::cancel);
   EXPECT_TRUE(soonAnswered(1));
   EXPECT_EQ(answer("success"), "1");
   EXPECT_EQ(answer("method"), "1");

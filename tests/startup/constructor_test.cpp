@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "device/frameworks/installed_hooks.hpp"
+#include "device/system/loader.hpp"
 #include "host/runtime.hpp"
 #include "tests/phone_test.hpp"
 
@@ -30,14 +32,35 @@ class Constructor : public PhoneTest, public ::testing::WithParamInterface<std::
   }
 };
 
+/// The methods that the library replaces in a host, in their order.
+std::vector<std::string> replacedIn(std::string_view bundleIdentifier) {
+  if (bundleIdentifier == device::kPhotos) {
+    return {"PhotosApplication applicationDidEnterBackground:",
+            "PUHorizontalAlbumListGadget viewWillAppear:",
+            "PUHorizontalAlbumListGadget collectionView:cellForItemAtIndexPath:",
+            "PUHorizontalAlbumListGadget collectionView:didSelectItemAtIndexPath:",
+            "PUAlbumListViewController viewWillAppear:",
+            "PUAlbumListViewController viewDidLayoutSubviews",
+            "PUAlbumListViewController collectionView:cellForItemAtIndexPath:",
+            "PUAlbumListViewController didSelectItemAtIndexPath:",
+            "PUAlbumListViewController albumListCellContentView:performDeleteAction:"};
+  }
+  if (bundleIdentifier == device::kSpringBoard) return {"SpringBoard applicationDidFinishLaunching:"};
+  return {};
+}
+
 TEST_P(Constructor, DoesWhatTheHostIsToGetAndNothingElse) {
   const auto& [host, enabled] = GetParam();
   const bool isPhotos = host.bundleIdentifier == device::kPhotos;
   const bool isSpringBoard = host.bundleIdentifier == device::kSpringBoard;
   phone_.writePreferences({{"enabled", enabled}});
-  phone_.launchHere(host.bundleIdentifier);
-  device::User::here().screen();
+  // As far as the loader brings it: before the app's own code.
+  device::become({phone_.folder(), std::string(host.bundleIdentifier)});
+  device::loadInjectedLibraries();
 
+  std::vector<std::string> replaced;
+  for (const auto& hook : device::installedHooks()) replaced.push_back(hook.className + " " + hook.selector);
+  EXPECT_EQ(replaced, enabled ? replacedIn(host.bundleIdentifier) : std::vector<std::string>());
   for (const char* const type : {"PUHorizontalAlbumListGadget", "PUAlbumListViewController"}) {
     for (const char* const selector :
          {"handleLongPress:", "unlockAlbum:withAlbum:", "requestPassword:", "unlockAuthorised:"}) {
@@ -52,8 +75,9 @@ TEST_P(Constructor, DoesWhatTheHostIsToGetAndNothingElse) {
   EXPECT_EQ(isObserved(kAnswered), isPhotos);
 }
 
-constexpr HostCase kHosts[] = {
-    {"SpringBoard", device::kSpringBoard}, {"Photos", device::kPhotos}, {"Gallery", device::kGallery}};
+constexpr HostCase kHosts[] = {{"SpringBoard", device::kSpringBoard}, {"Photos", device::kPhotos},
+                               {"Camera", "com.apple.camera"},        {"Shop", "com.apple.store.Jolly"},
+                               {"Gallery", device::kGallery},         {"NoApp", ""}};
 
 std::string nameOf(const ::testing::TestParamInfo<Constructor::ParamType>& test) {
   return std::get<0>(test.param).name + std::string(std::get<1>(test.param) ? "Enabled" : "Disabled");

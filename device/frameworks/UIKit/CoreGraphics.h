@@ -51,3 +51,20 @@ constexpr bool CGRectIntersectsRect(CGRect a, CGRect b) {
   return a.origin.x < CGRectGetMaxX(b) && b.origin.x < CGRectGetMaxX(a) && a.origin.y < CGRectGetMaxY(b) &&
          b.origin.y < CGRectGetMaxY(a);
 }
+
+/// Empty where they do not meet.
+constexpr CGRect CGRectIntersection(CGRect a, CGRect b) {
+  const CGPoint origin = {a.origin.x > b.origin.x ? a.origin.x : b.origin.x,
+                          a.origin.y > b.origin.y ? a.origin.y : b.origin.y};
+  const CGPoint end = {CGRectGetMaxX(a) < CGRectGetMaxX(b) ? CGRectGetMaxX(a) : CGRectGetMaxX(b),
+                       CGRectGetMaxY(a) < CGRectGetMaxY(b) ? CGRectGetMaxY(a) : CGRectGetMaxY(b)};
+  if (end.x <= origin.x || end.y <= origin.y) return CGRectZero;
+  return {origin, {end.x - origin.x, end.y - origin.y}};
+}
+
+constexpr bool CGRectContainsRect(CGRect a, CGRect b) {
+  return a.origin.x <= b.origin.x && a.origin.y <= b.origin.y && CGRectGetMaxX(b) <= CGRectGetMaxX(a) &&
+         CGRectGetMaxY(b) <= CGRectGetMaxY(a);
+}
+
+constexpr bool CGRectIsEmpty(CGRect rect) { return rect.size.width <= 0 || rect.size.height <= 0; }

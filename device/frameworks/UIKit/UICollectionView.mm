@@ -33,6 +33,12 @@
 @synthesize contentSize = _contentSize;
 @synthesize delegate = _delegate;
 
+- (id)initWithFrame:(CGRect)frame {
+  self = [super initWithFrame:frame];
+  if (self) [self setClipsToBounds:YES];
+  return self;
+}
+
 - (CGPoint)contentOffset {
   return _bounds.origin;
 }

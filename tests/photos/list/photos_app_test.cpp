@@ -2,10 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <optional>
 
 #include "host/photos_ui.hpp"
 #include "tests/phone_test.hpp"
+
+// Foundation's own count of living objects.
+extern "C" {
+unsigned char GSDebugAllocationActive(unsigned char active);
+int GSDebugAllocationCount(objc_class* type);
+}
 
 namespace velvault12 {
 namespace {
@@ -423,6 +430,41 @@ TEST_F(PhotosApp, TenThousandSelectionsLeaveNothingBehind) {
   EXPECT_EQ(references(list), listBefore);
   EXPECT_EQ(references(path), pathBefore);
   EXPECT_EQ(references(list.tileAtIndexPath(path)), tileBefore);
+}
+
+TEST_F(PhotosApp, UnlockingAgainAndAgainLeavesNothingBehind) {
+  write(kPassword, "right");
+  open(From::list, {"Holidays"});
+  setPassOption(1);
+  GSDebugAllocationActive(1);
+  const auto passwordRound = [&](std::string_view password, std::string_view button) {
+    const AutoreleasePool round;
+    me_.tap("Holidays");
+    me_.waitToSee("Unlock album");
+    me_.type(password);
+    me_.tap(button);
+    if (!openAlbum().empty()) me_.back();
+  };
+  const auto rounds = [&] {
+    passwordRound("right", "OK");
+    passwordRound("wrong", "OK");
+    passwordRound("", "Cancel");
+    me_.waitUntilGone("Incorrect password");
+  };
+  const auto alive = [] {
+    std::map<std::string, int> counts;
+    for (const char* const type : {"UIAlertController", "UIAlertAction", "UITextField", "UILabel", "NSTimer",
+                                   "PUPhotosAlbumViewController", "UILongPressGestureRecognizer"}) {
+      counts[type] = GSDebugAllocationCount(objc_getClass(type));
+    }
+    return counts;
+  };
+  rounds();
+  const auto before = alive();
+  EXPECT_GT(before.at("UILabel"), 0) << "objects are counted at all";
+  rounds();
+  rounds();
+  EXPECT_EQ(alive(), before);
 }
 
 }  // namespace
