@@ -65,29 +65,28 @@ struct Name {
   char text[Size];
 };
 
-/// The selector of that name, registered at its first use. Any thread.
-template <Name Text>
-SEL selector() {
-  static constinit std::atomic<SEL> cached{nullptr};
-  SEL known = cached.load(std::memory_order_relaxed);
+/// What the runtime knows under that name, asked for at its first use. Only what was found is remembered. Any
+/// thread.
+template <auto Find, Name Text>
+auto knownAs() {
+  static constinit std::atomic<decltype(Find(Text.text))> cached{nullptr};
+  auto known = cached.load(std::memory_order_relaxed);
   if (known == nullptr) {
-    known = sel_registerName(Text.text);
+    known = Find(Text.text);
     cached.store(known, std::memory_order_relaxed);
   }
   return known;
 }
 
-/// The host's class of that name, or null. A class can come with a framework that is loaded later, so only
-/// one that was found is remembered.
+template <Name Text>
+SEL selector() {
+  return knownAs<sel_registerName, Text>();
+}
+
+/// The host's class of that name, or null: it may come with a framework that is loaded later.
 template <Name Text>
 Class classNamed() {
-  static constinit std::atomic<Class> cached{nullptr};
-  Class known = cached.load(std::memory_order_relaxed);
-  if (known == nullptr) {
-    known = objc_getClass(Text.text);
-    cached.store(known, std::memory_order_relaxed);
-  }
-  return known;
+  return knownAs<objc_getClass, Text>();
 }
 
 class Object;

@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 
+#include "host/hook.hpp"
 #include "host/photos_ui.hpp"
 #include "tests/phone_test.hpp"
 
@@ -310,6 +311,7 @@ TEST_F(PhotosApp, OnlyTheBeginningOfAPressActs) {
   const PUAlbumListViewController list(albumList().get());
   const UIGestureRecognizer recognizer(
       list.tileAtIndexPath(pathTo(0)).gestureRecognizers().objectAtIndex(0).get());
+  EXPECT_EQ((recognizer.send<"minimumPressDuration", double()>()), 1.0);
   for (const State state : {State::changed, State::ended, State::cancelled, State::failed}) {
     recognizer.send<"_enterState:", void(State)>(state);
     list.send<"handleLongPress:", void(UIGestureRecognizer)>(recognizer);
@@ -322,6 +324,36 @@ TEST_F(PhotosApp, OnlyTheBeginningOfAPressActs) {
   list.send<"handleLongPress:", void(UIGestureRecognizer)>(recognizer);
   EXPECT_EQ(me_.feltFeedback(), std::vector<int>{1001});
   EXPECT_TRUE(soonLocked({"Holidays"}));
+}
+
+TEST_F(PhotosApp, ALongPressStartsFromTheFileAndUsesItsPassUp) {
+  open(From::list, {"Holidays", "Recipes"});
+  writeStrings(kLockedAlbums, {"Holidays", "Recipes", "Pets"});
+  me_.longPress("Holidays");
+  ownerIs(OwnerAnswer::success);
+  EXPECT_TRUE(soonLocked({"Recipes", "Pets"}));
+  for (const std::string_view locked : {"Pets", "Recipes"}) {
+    me_.tap(locked);
+    settle();
+    EXPECT_EQ(openAlbum(), "") << locked;
+  }
+}
+
+int layoutPasses = 0;
+void countLayout(UIView, Replaced<void()> host) {
+  ++layoutPasses;
+  host();
+}
+
+TEST_F(PhotosApp, ATileIsDrawnAgainShortlyAfterItsLockHasChanged) {
+  open(From::list);
+  const HookRow row[] = {replace<countLayout>("PUAlbumListCellContentView", "layoutSubviews")};
+  installHooks(row);
+  for (int press = 0; press < 2; ++press) {
+    me_.longPress("Holidays");
+    const int before = layoutPasses;
+    EXPECT_TRUE(soon([&] { return layoutPasses > before; })) << press;
+  }
 }
 
 TEST_F(PhotosApp, AnswersThatNobodyAwaitsOpenNothing) {
