@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "host/app_support.hpp"
+#include "host/hook.hpp"
 #include "host/springboard.hpp"
 #include "startup/service_messages.hpp"
 #include "tests/phone_test.hpp"
@@ -115,6 +116,22 @@ TEST_F(SpringBoardApp, TheOwnerIsAskedByNameAndOnlySuccessIsAnswered) {
   EXPECT_TRUE(soonAnswered(1));
   EXPECT_EQ(answer("success"), "1");
   EXPECT_EQ(answer("method"), "1");
+}
+
+int writesElsewhere = 0;
+bool countWrites(NSDictionary, Replaced<bool(NSString, bool)> host, NSString path, bool atomically) {
+  if (!sendToClass<"isMainThread", bool()>(classNamed<"NSThread">())) ++writesElsewhere;
+  return host(path, atomically);
+}
+
+TEST_F(SpringBoardApp, TheAnswerIsWrittenOnTheMainThread) {
+  boot();
+  const HookRow row[] = {replace<countWrites>("NSDictionary", "writeToFile:atomically:")};
+  installHooks(row);
+  authenticate(request(0, NSString::from("Holidays")).get());
+  me_.answerOwnerRequest(OwnerAnswer::success);
+  EXPECT_TRUE(soonAnswered(1));
+  EXPECT_EQ(writesElsewhere, 0);
 }
 
 TEST_F(SpringBoardApp, APhoneWithoutPasscodeAnswersNoAtOnce) {

@@ -176,6 +176,9 @@ TEST_P(EitherWay, ThePasswordOpensWhenItIsRightToTheLetter) {
 
 TEST_F(PhotosApp, WithoutAPasswordAnyEntryUnlocksAndAnEmptyOneMatchesNothingTyped) {
   open(From::list, {"Holidays"});
+  const UIView window = UIApplication::sharedApplication().keyWindow();
+  const auto subviews = [&] { return window.send<"subviews", NSArray()>().count(); };
+  const NSUInteger subviewsAtRest = subviews();
   setPassOption(1);
   me_.tap("Holidays");
   me_.waitToSee("Unlock album");
@@ -197,6 +200,7 @@ TEST_F(PhotosApp, WithoutAPasswordAnyEntryUnlocksAndAnEmptyOneMatchesNothingType
   me_.tap("OK");
   EXPECT_EQ(openAlbum(), "Holidays");
   me_.waitUntilGone("Incorrect password");
+  EXPECT_TRUE(soon([&] { return subviews() == subviewsAtRest; }));
 }
 
 TEST_F(PhotosApp, APhoneThatCannotAskItsOwnerOpensAtOnceAndSoDoesAnyOtherOption) {
@@ -392,6 +396,15 @@ TEST_F(PhotosApp, AnAnswerIsForTheKindOfControllerThatItNames) {
   EXPECT_EQ(phone_.dictionary(kAnswer)->at("albumName"), "Holidays");
   me_.tap("OK");
   EXPECT_EQ(openAlbum(), "Holidays");
+
+  // Another strip that has come on screen since does not get what this one asked for.
+  me_.back();
+  me_.back();
+  setPassOption(2);
+  const auto other = makeObject<PUHorizontalAlbumListGadget>();
+  other->send<"viewWillAppear:", void(bool)>(false);
+  me_.tap("Holidays");
+  EXPECT_TRUE(soonOpen("Holidays"));
 }
 
 TEST_F(PhotosApp, AppearingReadsTheLockedAlbumsAndStartsAListWhereThereIsNone) {
