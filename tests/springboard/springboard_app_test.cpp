@@ -73,6 +73,7 @@ class SpringBoardApp : public PhoneTest {
 
 TEST_F(SpringBoardApp, TheAnswerIsTheRequestWithItsOutcome) {
   boot({{"passOption", 1}});
+  EXPECT_TRUE(UIApplication::sharedApplication().keyWindow()) << "SpringBoard's own launch went on";
   authenticate(request(2, NSString::from("Holidays")).get());
   EXPECT_EQ(answered_->count(), 1);
   EXPECT_EQ(*phone_.dictionary(kAnswer),

@@ -242,6 +242,28 @@ TEST_F(PhotosApp, TheLockFollowsTheTitle) {
   EXPECT_EQ(openAlbum(), "Summer");
 }
 
+TEST_F(PhotosApp, AnAlbumOutOfSightIsLockedAsWell) {
+  auto library = phone_.photoLibrary();
+  for (int i = 0; i < 40; ++i) library.addAlbum("Album " + std::to_string(i));
+  open(From::list, {"Album 39"});
+  const PUAlbumListViewController list(albumList().get());
+  ASSERT_FALSE(list.tileAtIndexPath(pathTo(42)));
+  list.select(pathTo(42));
+  settle();
+  EXPECT_EQ(openAlbum(), "");
+  EXPECT_EQ(owner().ownerRequest(), "Album 39 needs to be unlocked.");
+}
+
+TEST_F(PhotosApp, SwitchedOffNewTilesAreTheHostsOwn) {
+  open(From::strip);
+  reload({{"enabled", false}});
+  me_.tap("See All");
+  me_.longPress("Pets");
+  settle();
+  EXPECT_EQ(openAlbum(), "Pets") << "a slow tap";
+  EXPECT_EQ(phone_.strings(kLockedAlbums), Titles{});
+}
+
 TEST_F(PhotosApp, ALockedAlbumIsDeletedOnlyByItsOwner) {
   open(From::list, {"Holidays"});
   const auto titles = [&] {
@@ -379,6 +401,13 @@ TEST_F(PhotosApp, AnswersThatNobodyAwaitsOpenNothing) {
   answer("{ success = (1); method = { a = b; }; controller = (x, y); }");
   answer("( success )");
   answer("bplist00");
+}
+
+TEST_F(PhotosApp, AnAnswerWithoutAFileIsForTheStripThatAppeared) {
+  open(From::strip, {"Holidays"});
+  setPassOption(1);
+  phone_.post(kAnswered);
+  me_.waitToSee("Unlock album");
 }
 
 TEST_F(PhotosApp, AnAnswerIsForTheKindOfControllerThatItNames) {
