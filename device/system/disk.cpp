@@ -88,7 +88,10 @@ fs::path Disk::locate(std::string_view path) const {
 
 bool Disk::mayWrite(std::string_view path) const {
   if (!isSandboxed_) return true;
-  const fs::path plain = spelledOut(path);
+  // Where it leads in the end: links count, and paths of this machine too.
+  std::error_code ignored;
+  const fs::path plain = fs::weakly_canonical(locate(path), ignored)
+                             .lexically_relative(fs::weakly_canonical(folder_ / "disk", ignored));
   const fs::path library = "var/mobile/Library";
   return !isBelow(plain, library) || isBelow(plain, library / "Preferences") ||
          isBelow(plain, library / "Caches");

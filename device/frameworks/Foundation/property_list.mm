@@ -19,7 +19,13 @@ std::size_t occurrences(std::string_view text, std::string_view word) {
   return count;
 }
 
+// GNUstep's reader of XML reaches for what would follow where the text stops.
+bool isXmlCutOff(std::string_view text) {
+  return text.starts_with("<?xml") && text.find("</plist>") == text.npos;
+}
+
 id textPropertyListIn(std::string_view text) {
+  if (isXmlCutOff(text)) return nil;
   const std::size_t containers = occurrences(text, "<array") + occurrences(text, "<dict") +
                                  occurrences(text, "(") + occurrences(text, "{");
   if (containers > kMostContainers) return nil;
