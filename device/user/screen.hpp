@@ -13,11 +13,11 @@ namespace device {
 /// What a view says to a person, "" for most.
 std::string textOf(UIView* view);
 
-/// All views that are neither hidden nor transparent, a parent before its children. Nothing while another app
-/// is in front.
-std::vector<UIView*> visibleViews();
+// On screen is what is neither hidden, transparent nor clipped away, and not all behind an opaque view;
+// nothing while another app is in front.
 
-/// Of these, those that a finger can reach: what is presented keeps it from what is behind.
+/// The views on screen that a finger can reach, a parent before its children: what is presented keeps it from
+/// what is behind.
 std::vector<UIView*> reachableViews();
 
 bool isOnScreen(std::string_view text);
@@ -25,7 +25,7 @@ bool isOnScreen(std::string_view text);
 /// The alert or action sheet in front, nil without one.
 UIAlertController* alertInFront();
 
-/// The visible views as indented lines.
+/// The views on screen as indented lines.
 std::string screenText();
 
 }  // namespace device

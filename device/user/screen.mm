@@ -11,17 +11,68 @@ namespace {
 
 constexpr CGFloat kTransparent = 0.01;
 
-void collect(UIView* view, std::vector<UIView*>& views) {
-  if ([view isHidden] || [view alpha] < kTransparent) return;
-  views.push_back(view);
-  for (UIView* subview in [view subviews]) collect(subview, views);
+/// A view, and the part of the screen that it fills.
+struct Sight {
+  UIView* view;
+  CGRect place;
+  /// Its own and that of all around it.
+  CGFloat alpha;
+  int depth;
+};
+
+bool isOpaque(const Sight& sight) {
+  CGFloat alpha = 0;
+  [[sight.view backgroundColor] getRed:nullptr green:nullptr blue:nullptr alpha:&alpha];
+  return sight.alpha * alpha == 1;
 }
 
-/// The windows on screen, frontmost first.
-NSArray* windowsInFront() {
+/// What is around the views to be collected: the part of the screen that is left to them, and the alpha.
+struct Surroundings {
+  CGRect clip;
+  CGFloat alpha = 1;
+  int depth = 0;
+};
+
+/// In the order in which they are painted.
+void collect(UIView* view, CGPoint windowOrigin, Surroundings around, std::vector<Sight>& sights) {
+  around.alpha *= [view alpha];
+  if ([view isHidden] || around.alpha < kTransparent) return;
+  const CGPoint inWindow = [view convertPoint:[view bounds].origin toView:nil];
+  const CGRect frame = {{inWindow.x + windowOrigin.x, inWindow.y + windowOrigin.y}, [view frame].size};
+  const CGRect place = CGRectIntersection(frame, around.clip);
+  if (!CGRectIsEmpty(place)) sights.push_back({view, place, around.alpha, around.depth});
+  if ([view clipsToBounds]) around.clip = place;
+  ++around.depth;
+  for (UIView* subview in [view subviews]) collect(subview, windowOrigin, around, sights);
+}
+
+/// Whether a view painted later hides all of one. Its own subviews belong to what is seen of it.
+bool isCovered(const std::vector<Sight>& sights, std::size_t index) {
+  const Sight& covered = sights[index];
+  std::size_t next = index + 1;
+  while (next < sights.size() && sights[next].depth > covered.depth) ++next;
+  return std::any_of(
+      sights.begin() + static_cast<std::ptrdiff_t>(next), sights.end(),
+      [&](const Sight& later) { return isOpaque(later) && CGRectContainsRect(later.place, covered.place); });
+}
+
+/// The windows on screen, backmost first.
+NSArray* windows() {
   UIApplication* application = [UIApplication sharedApplication];
-  if (!application || [application _isInBackground]) return [NSArray array];
-  return [[[application windows] reverseObjectEnumerator] allObjects];
+  return [application _isInBackground] ? [NSArray array] : [application windows];
+}
+
+/// Backmost first, a parent before its children.
+std::vector<Sight> sightsOnScreen() {
+  std::vector<Sight> all;
+  for (UIWindow* window in windows()) {
+    collect(window, [window frame].origin, {.clip = [[UIScreen mainScreen] bounds]}, all);
+  }
+  std::vector<Sight> seen;
+  for (std::size_t index = 0; index < all.size(); ++index) {
+    if (!isCovered(all, index)) seen.push_back(all[index]);
+  }
+  return seen;
 }
 
 UIViewController* presentedInFront(UIWindow* window) {
@@ -31,21 +82,20 @@ UIViewController* presentedInFront(UIWindow* window) {
   return front;
 }
 
-std::string lineOf(UIView* view, int depth) {
-  const CGRect frame = [view frame];
+std::string lineOf(const Sight& sight) {
+  const CGRect frame = [sight.view frame];
   char place[128];
   std::snprintf(place, sizeof place, " (%g %g %g %g)\n", frame.origin.x, frame.origin.y, frame.size.width,
                 frame.size.height);
-  std::string line(static_cast<std::size_t>(2 * depth), ' ');
-  line += [NSStringFromClass([view class]) UTF8String];
-  if (const std::string text = textOf(view); !text.empty()) line += " \"" + text + "\"";
+  std::string line(static_cast<std::size_t>(2 * sight.depth), ' ');
+  line += [NSStringFromClass([sight.view class]) UTF8String];
+  if (const std::string text = textOf(sight.view); !text.empty()) line += " \"" + text + "\"";
   return line + place;
 }
 
-void print(UIView* view, int depth, std::string& text) {
-  if ([view isHidden] || [view alpha] < kTransparent) return;
-  text += lineOf(view, depth);
-  for (UIView* subview in [view subviews]) print(subview, depth + 1, text);
+bool isWithin(UIView* view, UIView* ancestor) {
+  while (view && view != ancestor) view = [view superview];
+  return view != nil;
 }
 
 }  // namespace
@@ -55,28 +105,26 @@ std::string textOf(UIView* view) {
   return text ? text : "";
 }
 
-std::vector<UIView*> visibleViews() {
-  std::vector<UIView*> views;
-  for (UIWindow* window in windowsInFront()) collect(window, views);
-  return views;
-}
-
 std::vector<UIView*> reachableViews() {
+  const std::vector<Sight> sights = sightsOnScreen();
   std::vector<UIView*> views;
-  for (UIWindow* window in windowsInFront()) {
+  for (UIWindow* window in [windows() reverseObjectEnumerator]) {
     UIViewController* presented = presentedInFront(window);
-    collect(presented ? [presented view] : window, views);
+    UIView* root = presented ? [presented view] : window;
+    for (const Sight& sight : sights) {
+      if (isWithin(sight.view, root)) views.push_back(sight.view);
+    }
   }
   return views;
 }
 
 bool isOnScreen(std::string_view text) {
-  const std::vector<UIView*> views = visibleViews();
-  return std::ranges::any_of(views, [&](UIView* view) { return textOf(view) == text; });
+  return std::ranges::any_of(sightsOnScreen(),
+                             [&](const Sight& sight) { return textOf(sight.view) == text; });
 }
 
 UIAlertController* alertInFront() {
-  for (UIWindow* window in windowsInFront()) {
+  for (UIWindow* window in [windows() reverseObjectEnumerator]) {
     UIViewController* front = presentedInFront(window);
     if ([front isKindOfClass:[UIAlertController class]]) return static_cast<UIAlertController*>(front);
   }
@@ -85,7 +133,7 @@ UIAlertController* alertInFront() {
 
 std::string screenText() {
   std::string text;
-  for (UIWindow* window in [windowsInFront() reverseObjectEnumerator]) print(window, 0, text);
+  for (const Sight& sight : sightsOnScreen()) text += lineOf(sight);
   if (const std::string reason = pendingOwnerRequest(); !reason.empty()) {
     text += "Asked for the owner: \"" + reason + "\"\n";
   }

@@ -37,14 +37,6 @@
   [super dealloc];
 }
 
-- (id)copyWithZone:(NSZone*)zone {
-  PHFetchOptions* copy = [[[self class] allocWithZone:zone] init];
-  [copy setPredicate:_predicate];
-  [copy setSortDescriptors:_sortDescriptors];
-  [copy setIncludeHiddenAssets:_includeHiddenAssets];
-  return copy;
-}
-
 - (NSArray*)_select:(NSArray*)objects {
   if (_predicate) objects = [objects filteredArrayUsingPredicate:_predicate];
   if ([_sortDescriptors count]) objects = [objects sortedArrayUsingDescriptors:_sortDescriptors];

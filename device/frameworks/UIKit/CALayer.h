@@ -4,10 +4,8 @@
 
 @interface CALayer : NSObject {
   CGFloat _cornerRadius;
-  float _opacity;
   BOOL _masksToBounds;
 }
 @property(nonatomic) CGFloat cornerRadius;
-@property(nonatomic) float opacity;
 @property(nonatomic) BOOL masksToBounds;
 @end

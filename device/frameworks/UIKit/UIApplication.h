@@ -7,10 +7,8 @@
 /// Hidden at first. Nobody but its maker retains it: a window that is let go of leaves the screen.
 @interface UIWindow : UIView {
   UIViewController* _rootViewController;
-  CGFloat _windowLevel;
 }
 @property(nonatomic, retain) UIViewController* rootViewController;
-@property(nonatomic) CGFloat windowLevel;
 - (void)makeKeyAndVisible;
 @end
 

@@ -17,7 +17,6 @@ UIApplication* theApplication = nil;
 @implementation UIWindow
 
 @synthesize rootViewController = _rootViewController;
-@synthesize windowLevel = _windowLevel;
 
 - (id)initWithFrame:(CGRect)frame {
   self = [super initWithFrame:frame];
@@ -111,14 +110,8 @@ UIApplication* theApplication = nil;
 - (void)_window:(UIWindow*)window isVisible:(BOOL)visible {
   auto& windows = _windows->visible;
   std::erase(windows, window);
-  if (!visible) {
-    if (_keyWindow == window) _keyWindow = nil;
-    return;
-  }
-  const auto above = std::find_if(windows.begin(), windows.end(), [&](UIWindow* other) {
-    return [other windowLevel] > [window windowLevel];
-  });
-  windows.insert(above, window);
+  if (visible) windows.push_back(window);
+  if (!visible && _keyWindow == window) _keyWindow = nil;
 }
 
 - (void)_makeKeyWindow:(UIWindow*)window {

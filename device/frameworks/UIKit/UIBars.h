@@ -18,12 +18,10 @@
 
 @interface UINavigationItem : NSObject {
   NSString* _title;
-  UIBarButtonItem* _leftBarButtonItem;
   UIBarButtonItem* _rightBarButtonItem;
   UINavigationBar* _navigationBar;
 }
 @property(nonatomic, copy) NSString* title;
-@property(nonatomic, retain) UIBarButtonItem* leftBarButtonItem;
 @property(nonatomic, retain) UIBarButtonItem* rightBarButtonItem;
 /// The bar that shows the item. Not retained.
 @property(nonatomic, assign, setter=_setNavigationBar:) UINavigationBar* _navigationBar;
@@ -66,10 +64,4 @@
 
 @interface NSObject (UITabBarDelegate)
 - (void)tabBar:(UITabBar*)bar didSelectItem:(UITabBarItem*)item;
-@end
-
-@interface UIToolbar : UIView {
-  NSArray* _items;
-}
-@property(nonatomic, copy) NSArray* items;
 @end

@@ -46,13 +46,11 @@ UIButton* addBarButton(UIView* bar, NSString* title, CGFloat x, id target, SEL a
 @implementation UINavigationItem
 
 @synthesize title = _title;
-@synthesize leftBarButtonItem = _leftBarButtonItem;
 @synthesize rightBarButtonItem = _rightBarButtonItem;
 @synthesize _navigationBar = _navigationBar;
 
 - (void)dealloc {
   [_title release];
-  [_leftBarButtonItem release];
   [_rightBarButtonItem release];
   [super dealloc];
 }
@@ -60,12 +58,6 @@ UIButton* addBarButton(UIView* bar, NSString* title, CGFloat x, id target, SEL a
 - (void)setTitle:(NSString*)title {
   [_title autorelease];
   _title = [title copy];
-  [_navigationBar setNeedsLayout];
-}
-
-- (void)setLeftBarButtonItem:(UIBarButtonItem*)item {
-  [_leftBarButtonItem autorelease];
-  _leftBarButtonItem = [item retain];
   [_navigationBar setNeedsLayout];
 }
 
@@ -110,9 +102,7 @@ UIButton* addBarButton(UIView* bar, NSString* title, CGFloat x, id target, SEL a
   removeAllSubviews(self);
   const CGFloat right = _bounds.size.width - kButtonWidth - kMargin;
   UINavigationItem* top = [self topItem];
-  if (UIBarButtonItem* left = [top leftBarButtonItem]) {
-    addBarButton(self, [left title], kMargin, [left target], [left action]);
-  } else if (UINavigationItem* back = [self backItem]) {
+  if (UINavigationItem* back = [self backItem]) {
     NSString* title = [[back title] length] ? [back title] : @"Back";
     UIButton* button = addBarButton(self, title, kMargin, self, @selector(_backTapped));
     [button setAccessibilityIdentifier:@"BackButton"];
@@ -182,35 +172,6 @@ UIButton* addBarButton(UIView* bar, NSString* title, CGFloat x, id target, SEL a
 
 - (void)_buttonTapped:(UITabBarButton*)button {
   [_delegate tabBar:self didSelectItem:[_items objectAtIndex:[_subviews indexOfObjectIdenticalTo:button]]];
-}
-
-@end
-
-@implementation UIToolbar
-
-@synthesize items = _items;
-
-- (void)dealloc {
-  [_items release];
-  [super dealloc];
-}
-
-- (void)setItems:(NSArray*)items {
-  [_items autorelease];
-  _items = [items copy];
-  [self setNeedsLayout];
-}
-
-- (void)layoutSubviews {
-  [super layoutSubviews];
-  removeAllSubviews(self);
-  CGFloat x = kMargin;
-  for (UIBarButtonItem* item in _items) {
-    addBarButton(self, [item title], x, [item target], [item action]);
-    x += kButtonWidth + kMargin;
-  }
-  // The new subviews have marked the bar again.
-  _needsLayout = NO;
 }
 
 @end

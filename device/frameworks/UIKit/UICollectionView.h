@@ -6,9 +6,7 @@
 
 @interface NSIndexPath (UIKit)
 + (NSIndexPath*)indexPathForItem:(NSInteger)item inSection:(NSInteger)section;
-+ (NSIndexPath*)indexPathForRow:(NSInteger)row inSection:(NSInteger)section;
 - (NSInteger)item;
-- (NSInteger)row;
 - (NSInteger)section;
 @end
 

@@ -10,16 +10,8 @@
   return [self indexPathWithIndexes:indexes length:2];
 }
 
-+ (NSIndexPath*)indexPathForRow:(NSInteger)row inSection:(NSInteger)section {
-  return [self indexPathForItem:row inSection:section];
-}
-
 - (NSInteger)item {
   return static_cast<NSInteger>([self indexAtPosition:1]);
-}
-
-- (NSInteger)row {
-  return [self item];
 }
 
 - (NSInteger)section {

@@ -10,7 +10,6 @@
 + (UIColor*)clearColor;
 + (UIColor*)whiteColor;
 + (UIColor*)blackColor;
-+ (UIColor*)lightGrayColor;
 - (BOOL)getRed:(CGFloat*)red green:(CGFloat*)green blue:(CGFloat*)blue alpha:(CGFloat*)alpha;
 @end
 

@@ -27,10 +27,6 @@
   return [self colorWithRed:0 green:0 blue:0 alpha:1];
 }
 
-+ (UIColor*)lightGrayColor {
-  return [self colorWithRed:2.0 / 3 green:2.0 / 3 blue:2.0 / 3 alpha:1];
-}
-
 - (BOOL)getRed:(CGFloat*)red green:(CGFloat*)green blue:(CGFloat*)blue alpha:(CGFloat*)alpha {
   if (red) *red = _red;
   if (green) *green = _green;

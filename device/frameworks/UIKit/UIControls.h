@@ -1,6 +1,5 @@
 #pragma once
 
-#import "device/frameworks/UIKit/UIImage.h"
 #import "device/frameworks/UIKit/UIView.h"
 
 enum UIControlEvents : NSUInteger {
@@ -38,14 +37,11 @@ enum UIControlEvents : NSUInteger {
 
 @interface UIButton : UIControl {
   NSString* _currentTitle;
-  UIImage* _currentImage;
 }
 + (id)buttonWithType:(NSInteger)type;
-/// One title and one image serve all states.
+/// One title serves all states.
 - (void)setTitle:(NSString*)title forState:(NSUInteger)state;
-- (void)setImage:(UIImage*)image forState:(NSUInteger)state;
 @property(nonatomic, readonly) NSString* currentTitle;
-@property(nonatomic, readonly) UIImage* currentImage;
 @end
 
 @interface UITextField : UIControl {

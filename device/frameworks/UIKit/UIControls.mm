@@ -66,7 +66,6 @@
 @implementation UIButton
 
 @synthesize currentTitle = _currentTitle;
-@synthesize currentImage = _currentImage;
 
 + (id)buttonWithType:(NSInteger)type {
   return [[[self alloc] init] autorelease];
@@ -74,19 +73,12 @@
 
 - (void)dealloc {
   [_currentTitle release];
-  [_currentImage release];
   [super dealloc];
 }
 
 - (void)setTitle:(NSString*)title forState:(NSUInteger)state {
   [_currentTitle autorelease];
   _currentTitle = [title copy];
-  [self setNeedsLayout];
-}
-
-- (void)setImage:(UIImage*)image forState:(NSUInteger)state {
-  [_currentImage autorelease];
-  _currentImage = [image retain];
   [self setNeedsLayout];
 }
 

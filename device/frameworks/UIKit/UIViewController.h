@@ -3,7 +3,7 @@
 #import "device/frameworks/UIKit/UIBars.h"
 #import "device/frameworks/UIKit/UIView.h"
 
-@class UINavigationController, UITabBarController;
+@class UINavigationController;
 
 @interface UIViewController : UIResponder {
   UIView* _view;
@@ -40,7 +40,6 @@
 @property(nonatomic, readonly) UIViewController* parentViewController;
 @property(nonatomic, readonly) NSArray* childViewControllers;
 @property(nonatomic, readonly) UINavigationController* navigationController;
-@property(nonatomic, readonly) UITabBarController* tabBarController;
 - (void)addChildViewController:(UIViewController*)child;
 - (void)removeFromParentViewController;
 

@@ -4,7 +4,6 @@
 #import "device/frameworks/UIKit/UIDelayedBlock.h"
 #import "device/frameworks/UIKit/UIDevice.h"
 #import "device/frameworks/UIKit/UINavigationController.h"
-#import "device/frameworks/UIKit/UITabBarController.h"
 
 /// Lies between what is presented and what is behind it, and takes the touches for what is behind.
 @interface UITransitionView : UIView
@@ -150,20 +149,11 @@
   if (parent) [parent->_childViewControllers removeObjectIdenticalTo:self];
 }
 
-- (id)_ancestorOfKind:(Class)kind {
-  for (UIViewController* ancestor = _parentViewController; ancestor;
-       ancestor = ancestor->_parentViewController) {
-    if ([ancestor isKindOfClass:kind]) return ancestor;
-  }
-  return nil;
-}
-
 - (UINavigationController*)navigationController {
-  return [self _ancestorOfKind:[UINavigationController class]];
-}
-
-- (UITabBarController*)tabBarController {
-  return [self _ancestorOfKind:[UITabBarController class]];
+  UIViewController* ancestor = _parentViewController;
+  while (ancestor && ![ancestor isKindOfClass:[UINavigationController class]])
+    ancestor = ancestor->_parentViewController;
+  return static_cast<UINavigationController*>(ancestor);
 }
 
 // Presentation. The outermost controller of a hierarchy presents for all of it.
