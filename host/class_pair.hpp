@@ -17,7 +17,7 @@ class ClassPair {
   /// An instance variable that holds one object, not retained by the runtime.
   ClassPair& variable(const char* name) {
     constexpr std::uint8_t kPointerAlignment = 3;
-    if (type_ != nullptr) class_addIvar(type_, name, sizeof(id), kPointerAlignment, "@");
+    if (type_ != nullptr) class_addIvar(type_, name, sizeof(void*), kPointerAlignment, "@");
     return *this;
   }
 

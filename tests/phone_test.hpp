@@ -17,6 +17,7 @@
 #include "device/device.hpp"
 #include "device/system/process.hpp"
 #include "device/system/run_loop.hpp"
+#include "host/dispatch.hpp"
 
 namespace velvault12 {
 
@@ -91,6 +92,13 @@ class PhoneTest : public ::testing::Test {
   /// Runs this process's app until the condition holds.
   static bool soon(const std::function<bool()>& condition) {
     return device::runUntil(condition, device::kPatience);
+  }
+  /// Lets what has reached this process by now be handled: one turn of its run loop handles all that is
+  /// ready.
+  static void turn() {
+    bool isOver = false;
+    runOnMainQueue([&isOver] { isOver = true; });
+    ASSERT_TRUE(soon([&isOver] { return isOver; }));
   }
   bool soonLocked(const Titles& titles) const {
     const FolderEvents events(phone_.onDisk(kStateFolder));

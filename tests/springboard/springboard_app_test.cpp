@@ -54,7 +54,7 @@ class SpringBoardApp : public PhoneTest {
     return soon([&] { return answered_->count() == times; });
   }
   void expectSilence() {
-    me_.screen();
+    turn();
     EXPECT_FALSE(hasFile(kAnswer));
     EXPECT_EQ(answered_->count(), 0);
   }

@@ -46,7 +46,7 @@ class PhotosApp : public PhoneTest {
     phone_.writePreferences(preferences);
     phone_.post(kReload);
     owner().screen();
-    me_.screen();
+    turn();
   }
 
   const device::User& owner() const { return springBoard_->user(); }
@@ -81,7 +81,7 @@ class PhotosApp : public PhoneTest {
   /// Lets everything that is on its way arrive: a message to SpringBoard and back.
   void settle() const {
     owner().screen();
-    me_.screen();
+    turn();
   }
 
   std::optional<device::App> springBoard_;
