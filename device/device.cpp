@@ -80,11 +80,6 @@ App& App::operator=(App&& other) noexcept {
   return *this;
 }
 
-bool App::isRunning() const {
-  siginfo_t end{};
-  return process_ > 0 && ::waitid(P_PID, process_, &end, WEXITED | WNOHANG | WNOWAIT) == 0 && end.si_pid == 0;
-}
-
 void App::kill() {
   if (process_ <= 0) return;
   ::kill(process_, SIGKILL);
@@ -93,6 +88,10 @@ void App::kill() {
 }
 
 Device::Device(const fs::path& folder) : folder_(fs::absolute(folder).lexically_normal()) {
+  // Whatever else lies there is not the phone's to erase.
+  if (fs::exists(folder_) && !fs::is_empty(folder_) && !fs::exists(folder_ / "disk")) {
+    throw std::runtime_error(folder_.native() + " is no phone's folder");
+  }
   fs::remove_all(folder_);
   for (const char* path :
        {"disk/var/mobile/Library/Preferences", "disk/Library/MobileSubstrate/DynamicLibraries",
@@ -133,9 +132,7 @@ void Device::launchHere(std::string_view bundleIdentifier) const {
   launchApp({folder_, std::string(bundleIdentifier)});
 }
 
-PhotoDatabase Device::photoLibrary() const {
-  return PhotoDatabase(onDisk("/var/mobile/Media/PhotoData/Photos.sqlite"));
-}
+PhotoDatabase Device::photoLibrary() const { return PhotoDatabase(onDisk(kPhotoDatabasePath)); }
 
 void Device::post(std::string_view notification) const { postNotification(folder_, notification); }
 

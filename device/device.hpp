@@ -26,7 +26,6 @@ class App {
   /// Whoever holds the phone while this app is in front.
   const User& user() const { return user_; }
   pid_t process() const { return process_; }
-  bool isRunning() const;
   /// Ends the process at once, as a crash would, and waits until it is gone.
   void kill();
 
@@ -38,7 +37,8 @@ class App {
 /// A simulated iPhone: a folder with its disk and sockets, shared by all of its processes.
 class Device {
  public:
-  /// A new phone in `folder`, which is emptied first: an empty photo library, nothing installed.
+  /// A new phone in `folder`: an empty photo library, nothing installed. A phone that was there before is
+  /// erased; throws std::runtime_error where anything else lies there.
   explicit Device(const std::filesystem::path& folder);
 
   const std::filesystem::path& folder() const { return folder_; }

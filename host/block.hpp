@@ -1,6 +1,7 @@
 #pragma once
 
 #include <new>
+#include <type_traits>
 #include <utility>
 
 #include "host/encoding.hpp"

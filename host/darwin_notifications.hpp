@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "host/foundation.hpp"
@@ -19,6 +20,9 @@ std::uint32_t notify_post(const char* name);
 
 /// How a notification that arrives while the app is suspended is delivered.
 enum class SuspensionBehavior : NSInteger { coalesce = 2, deliverImmediately = 4 };
+
+/// Posts to every process that observes the name.
+inline void postDarwinNotification(std::string_view name) { notify_post(std::string(name).c_str()); }
 
 /// Calls `Notified` on the main thread whenever any process posts the Darwin notification, until this process
 /// ends.

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <span>
 #include <string_view>
+#include <type_traits>
 
 #include "host/encoding.hpp"
 #include "host/runtime.hpp"

@@ -22,7 +22,7 @@ struct Service {
 void answer(NSMutableDictionary request, bool success) {
   request.set(key::kSuccess, NSNumber::from(success));
   request.writeToFile(NSString::from(kAnswerFile), true);
-  notify_post(kAnswerNotification);
+  postDarwinNotification(kAnswerNotification);
 }
 
 void askOwner(const Ref<LAContext>& context, const Ref<NSMutableDictionary>& request,

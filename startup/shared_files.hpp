@@ -28,7 +28,7 @@ inline constexpr std::string_view kAnswerFile = "/var/mobile/Library/velvault/au
 /// Posted by the settings pane when the preferences have changed.
 inline constexpr std::string_view kReloadNotification = "com.qdx.velvault12prefs/reloadPrefs";
 /// Posted by SpringBoard when it has written an answer.
-inline constexpr const char* kAnswerNotification = "com.qdx.VVAuthenticate";
+inline constexpr std::string_view kAnswerNotification = "com.qdx.VVAuthenticate";
 
 /// The strings of a file that holds an array, what is no string left out; nothing when the file is missing or
 /// holds something else. Read afresh at each call: any process may have had it rewritten.

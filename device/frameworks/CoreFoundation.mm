@@ -3,7 +3,6 @@
 #include "device/frameworks/CoreFoundation.hpp"
 
 #include <memory>
-#include <mutex>
 #include <utility>
 #include <vector>
 

@@ -11,6 +11,7 @@ enum LAError : NSInteger {
   LAErrorAuthenticationFailed = -1,
   LAErrorUserCancel = -2,
   LAErrorPasscodeNotSet = -5,
+  LAErrorBiometryNotEnrolled = -7,
   LAErrorAppCancel = -9,
 };
 

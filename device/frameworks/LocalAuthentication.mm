@@ -72,16 +72,16 @@ class Owner {
 
 NSError* errorOf(LAError code) { return [NSError errorWithDomain:LAErrorDomain code:code userInfo:nil]; }
 
-// Takes over the copied block. Success without an error code.
-void reply(void (^block)(BOOL, NSError*), std::optional<LAError> failure) {
-  std::thread([block, failure] {
+// Takes over the copied block, which it calls on the thread that it answers. Success without an error code.
+std::thread reply(void (^block)(BOOL, NSError*), std::optional<LAError> failure) {
+  return std::thread([block, failure] {
     GSRegisterCurrentThread();
     NSAutoreleasePool* pool = [NSAutoreleasePool new];
     block(!failure, failure ? errorOf(*failure) : nil);
     Block_release(block);
     [pool drain];
     GSUnregisterCurrentThread();
-  }).detach();
+  });
 }
 
 }  // namespace
@@ -91,8 +91,10 @@ std::string pendingOwnerRequest() { return Owner::instance().reason(); }
 void answerPendingOwnerRequest(OwnerAnswer answer) {
   const std::optional<Request> request = Owner::instance().take();
   if (!request) throw std::runtime_error("nobody asks for the owner");
-  if (answer == OwnerAnswer::success) return reply(request->reply, std::nullopt);
-  reply(request->reply, answer == OwnerAnswer::cancel ? LAErrorUserCancel : LAErrorAuthenticationFailed);
+  std::optional<LAError> failure;
+  if (answer == OwnerAnswer::cancel) failure = LAErrorUserCancel;
+  if (answer == OwnerAnswer::failure) failure = LAErrorAuthenticationFailed;
+  reply(request->reply, failure).join();
 }
 
 void setPasscode(bool present) { Owner::instance().setPasscode(present); }
@@ -102,7 +104,11 @@ void setPasscode(bool present) { Owner::instance().setPasscode(present); }
 @implementation LAContext
 
 - (BOOL)canEvaluatePolicy:(NSInteger)policy error:(NSError**)error {
-  (void)policy;
+  // This owner has a passcode at most: no finger and no face is enrolled.
+  if (policy != LAPolicyDeviceOwnerAuthentication) {
+    if (error) *error = device::errorOf(LAErrorBiometryNotEnrolled);
+    return NO;
+  }
   const bool can = device::Owner::instance().hasPasscode();
   if (!can && error) *error = device::errorOf(LAErrorPasscodeNotSet);
   return can;
@@ -116,13 +122,13 @@ void setPasscode(bool present) { Owner::instance().setPasscode(present); }
                 format:@"-[LAContext %@] needs a reason and a reply", NSStringFromSelector(_cmd)];
   }
   if (![self canEvaluatePolicy:policy error:NULL])
-    return device::reply(Block_copy(reply), LAErrorPasscodeNotSet);
+    return device::reply(Block_copy(reply), LAErrorPasscodeNotSet).detach();
   device::Owner::instance().ask({self, device::utf8(reason), Block_copy(reply)});
 }
 
 - (void)dealloc {
   while (const auto request = device::Owner::instance().take(self)) {
-    device::reply(request->reply, LAErrorAppCancel);
+    device::reply(request->reply, LAErrorAppCancel).detach();
   }
   [super dealloc];
 }

@@ -69,6 +69,11 @@ bool replaceFile(const fs::path& path, std::string_view contents) {
   return false;
 }
 
+bool overwriteFile(const fs::path& path, std::string_view contents) {
+  const Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0644));
+  return file && writeAll(file.get(), contents);
+}
+
 Disk::Disk(fs::path deviceFolder, bool isSandboxed)
     : folder_(std::move(deviceFolder)), isSandboxed_(isSandboxed) {}
 
@@ -99,8 +104,9 @@ bool Disk::mayWrite(std::string_view path) const {
 
 std::optional<std::string> Disk::read(std::string_view path) const { return readFile(locate(path)); }
 
-bool Disk::write(std::string_view path, std::string_view contents) const {
-  return !path.empty() && mayWrite(path) && replaceFile(locate(path), contents);
+bool Disk::write(std::string_view path, std::string_view contents, bool atomically) const {
+  if (path.empty() || !mayWrite(path)) return false;
+  return atomically ? replaceFile(locate(path), contents) : overwriteFile(locate(path), contents);
 }
 
 Disk diskOfThisProcess() { return {identity().folder, isSandboxed()}; }

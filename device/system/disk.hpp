@@ -11,6 +11,8 @@ namespace device {
 std::optional<std::string> readFile(const std::filesystem::path& file);
 /// Replaces the whole file or leaves it as it was: nobody ever sees a part. The folder must exist.
 bool replaceFile(const std::filesystem::path& file, std::string_view contents);
+/// Writes over what is there: a reader may see a part, and a failure leaves one.
+bool overwriteFile(const std::filesystem::path& file, std::string_view contents);
 
 /// The phone's disk as one process sees it: takes the phone's paths, works on the device's folder.
 ///
@@ -27,7 +29,7 @@ class Disk {
   bool mayWrite(std::string_view path) const;
 
   std::optional<std::string> read(std::string_view path) const;
-  bool write(std::string_view path, std::string_view contents) const;
+  bool write(std::string_view path, std::string_view contents, bool atomically) const;
 
  private:
   std::filesystem::path spelledOut(std::filesystem::path path) const;

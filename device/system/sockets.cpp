@@ -129,8 +129,10 @@ Descriptor connectTo(const fs::path& socket) {
   const Address address(socket);
   if (!descriptor || !address.isValid()) return Descriptor();
   limitSends(descriptor);
-  return ::connect(descriptor.get(), address.get(), address.size()) == 0 ? std::move(descriptor)
-                                                                         : Descriptor();
+  if (::connect(descriptor.get(), address.get(), address.size()) == 0) return descriptor;
+  // Whoever listened there is gone.
+  if (errno == ECONNREFUSED) ::unlink(socket.c_str());
+  return Descriptor();
 }
 
 Descriptor acceptFrom(const Descriptor& listener) {

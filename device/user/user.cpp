@@ -37,7 +37,15 @@ void User::back() const { perform({"back"}); }
 void User::leaveApp() const { perform({"leaveApp"}); }
 void User::returnToApp() const { perform({"returnToApp"}); }
 
-AlertText User::alert() const { return decodeAlertText(perform({"alert"})); }
+Alert User::alert() const { return {decodeAlertText(perform({"alert"})), *this}; }
+
+const Alert& Alert::type(std::string_view text) const {
+  user_.type(text);
+  return *this;
+}
+
+void Alert::tap(std::string_view button) const { user_.tap(button); }
+
 bool User::hasAlert() const { return perform({"hasAlert"}) == "yes"; }
 
 bool User::sees(std::string_view text) const { return perform({"sees", std::string(text)}) == "yes"; }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace device {
@@ -22,6 +23,8 @@ struct AlertText {
   /// In the order in which they were added.
   std::vector<std::string> buttons;
 };
+
+class Alert;
 
 /// Somebody who holds the phone and uses one of its apps: in this process, or in another one over the
 /// app's control socket. Every step that cannot be done (nothing of that name on screen, no alert, patience
@@ -47,7 +50,8 @@ class User {
   void leaveApp() const;
   void returnToApp() const;
 
-  AlertText alert() const;
+  /// The alert in front; throws without one.
+  Alert alert() const;
   bool hasAlert() const;
 
   /// Whether the text is on screen, as the whole text of some visible view, bar, button or alert.
@@ -72,6 +76,19 @@ class User {
  private:
   std::string perform(const std::vector<std::string>& command) const;
   Hands hands_;
+};
+
+/// An alert in front of a user: its texts, and what can be done with it.
+class Alert : public AlertText {
+ public:
+  Alert(AlertText text, User user) : AlertText(std::move(text)), user_(std::move(user)) {}
+  /// Types into its first field.
+  const Alert& type(std::string_view text) const;
+  /// Taps one of its buttons.
+  void tap(std::string_view button) const;
+
+ private:
+  User user_;
 };
 
 /// Performs one command of `User` in this process's app, running the run loop as needed. Main thread only.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <utility>
 
 #include "host/photos_ui.hpp"
 #include "host/reference.hpp"

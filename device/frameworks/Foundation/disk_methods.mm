@@ -59,21 +59,21 @@ BOOL move(id self, SEL command, NSString* from, NSString* to, NSError** error) {
   return mayWrite(from) && mayWrite(to) ? host.move(self, command, from, to, error) : refused(error);
 }
 
-BOOL write(NSString* path, std::string_view contents) {
-  return diskOfThisProcess().write(utf8(path), contents);
+BOOL write(NSString* path, std::string_view contents, BOOL atomically) {
+  return diskOfThisProcess().write(utf8(path), contents, atomically);
 }
 
-BOOL writeData(NSData* self, SEL, NSString* path, BOOL) {
-  return write(path, {static_cast<const char*>([self bytes]), [self length]});
+BOOL writeData(NSData* self, SEL, NSString* path, BOOL atomically) {
+  return write(path, {static_cast<const char*>([self bytes]), [self length]}, atomically);
 }
 
 BOOL writeDataWithOptions(NSData* self, SEL, NSString* path, NSUInteger, NSError** error) {
   return [self writeToFile:path atomically:YES] || refused(error);
 }
 
-BOOL writePropertyList(id self, SEL, NSString* path, BOOL) {
+BOOL writePropertyList(id self, SEL, NSString* path, BOOL atomically) {
   const std::optional<std::string> text = xmlPropertyListOf(self);
-  return text && write(path, *text);
+  return text && write(path, *text, atomically);
 }
 
 id contents(NSString* path, Class kind) {
