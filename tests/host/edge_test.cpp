@@ -149,6 +149,25 @@ TEST_F(Edge, HooksReachTheNamedClassAloneAndCallThrough) {
   EXPECT_EQ((Replaced<NSString()>(nullptr, nullptr, nullptr)().get()), nullptr);
 }
 
+int classMethodCalls = 0;
+Object countedProcessInfo(Object, Replaced<Object()> host) {
+  ++classMethodCalls;
+  return host();
+}
+
+TEST_F(Edge, AClassMethodIsReplacedOnItsClass) {
+  const auto processInfo = [] { return sendToClass<"processInfo", Object()>(classNamed<"NSProcessInfo">()); };
+  const Object before = processInfo();
+  const HookRow rows[] = {replaceClassMethod<countedProcessInfo>("NSProcessInfo", "processInfo"),
+                          replaceClassMethod<countedProcessInfo>("NSProcessInfo", "arguments")};
+  installHooks(rows);
+  EXPECT_TRUE(before);
+  EXPECT_EQ(processInfo(), before);
+  EXPECT_EQ(classMethodCalls, 1);
+  EXPECT_TRUE((before.send<"arguments", Object()>())) << "an instance method is not its class's";
+  EXPECT_EQ(classMethodCalls, 1);
+}
+
 TEST_F(Edge, AnAddedMethodIsCalledLikeAnyOther) {
   const HookRow rows[] = {add<remember>("NSMutableString", "velvaultTestRemember:", "v@:@")};
   installHooks(rows);

@@ -323,6 +323,33 @@ TEST_F(PhotosApp, AnAlbumOutOfSightIsLockedAsWell) {
   EXPECT_EQ(owner().ownerRequest(), "Album 39 needs to be unlocked.");
 }
 
+NSString lockedTitle(Object) { return NSString::from("Holidays"); }
+Object gadgetWithoutTile(PUHorizontalAlbumListGadget, Replaced<Object(NSIndexPath)>, NSIndexPath) {
+  static Object gadget(sendToClass<"new", id()>(objc_getClass("GadgetWithoutTile")));
+  return gadget;
+}
+
+TEST_F(PhotosApp, AGadgetWithoutATileIsKnownByItsOwnTitle) {
+  open(From::strip, {"Holidays"});
+  ClassPair(classNamed<"NSObject">(), "GadgetWithoutTile")
+      .method<lockedTitle>(selector<"title">(), "@@:")
+      .registered();
+  const HookRow row[] = {replace<gadgetWithoutTile>("PUHorizontalAlbumListGadget", "_gadgetAtIndexPath:")};
+  installHooks(row);
+  PUHorizontalAlbumListGadget(strip().get()).select(pathTo(1));
+  settle();
+  EXPECT_EQ(openAlbum(), "");
+  EXPECT_EQ(owner().ownerRequest(), "Holidays needs to be unlocked.");
+}
+
+TEST_F(PhotosApp, SwitchedOnWhileItRunsChangesNothing) {
+  phone_.writePreferences({{"enabled", false}});
+  open(From::list, {"Holidays"});
+  reload({{"enabled", true}});
+  me_.tap("Holidays");
+  EXPECT_EQ(openAlbum(), "Holidays");
+}
+
 TEST_F(PhotosApp, SwitchedOffNewTilesAreTheHostsOwn) {
   open(From::strip);
   reload({{"enabled", false}});
