@@ -4,6 +4,8 @@
 
 #include <optional>
 
+#include "device/apps/app.hpp"
+#include "device/system/loader.hpp"
 #include "host/app_support.hpp"
 #include "host/hook.hpp"
 #include "host/springboard.hpp"
@@ -70,6 +72,26 @@ class SpringBoardApp : public PhoneTest {
                                                                                 userInfo);
   }
 };
+
+bool isServed() {
+  return CPDistributedMessagingCenter::centerNamed(kServiceName).send<"doesServerExist", bool()>();
+}
+bool wasServedBefore = true;
+void ownLaunch(SpringBoard, Replaced<void(UIApplication)> host, UIApplication application) {
+  host(application);
+  wasServedBefore = isServed();
+}
+
+TEST_F(SpringBoardApp, ServesOnceItsOwnLaunchIsOver) {
+  device::become({phone_.folder(), std::string(device::kSpringBoard)});
+  // Replaced before the library comes, so that this is what the library calls as the host's own.
+  const HookRow row[] = {replace<ownLaunch>("SpringBoard", "applicationDidFinishLaunching:")};
+  installHooks(row);
+  device::loadInjectedLibraries();
+  device::startApp(device::kSpringBoard);
+  EXPECT_FALSE(wasServedBefore);
+  EXPECT_TRUE(isServed());
+}
 
 TEST_F(SpringBoardApp, TheAnswerIsTheRequestWithItsOutcome) {
   boot({{"passOption", 1}});

@@ -73,10 +73,13 @@ class PhotosApp : public PhoneTest {
         NSIndexPath::hostClass(), item, 0);
   }
 
+ public:
   /// The title of the album whose photos are on screen, "" for none.
   static std::string openAlbum() {
     return top().trySend<"assetCollection", PHCollection()>().localizedTitle().utf8();
   }
+
+ protected:
   bool soonOpen(std::string_view title) const {
     return soon([&] { return openAlbum() == title; });
   }
@@ -452,6 +455,25 @@ TEST_F(PhotosApp, APassThatNothingUsesLetsTheNextActionThrough) {
   me_.tap("Holidays");
   settle();
   EXPECT_EQ(openAlbum(), "");
+}
+
+std::string openAsTheAppIsLeft;
+void leftTheApp(PhotosApplication, Replaced<void(UIApplication)> host, UIApplication application) {
+  openAsTheAppIsLeft = PhotosApp::openAlbum();
+  host(application);
+}
+
+TEST_F(PhotosApp, TheAlbumIsGoneBeforeTheHostLearnsThatTheAppIsLeft) {
+  // Replaced before the library comes, so that this is what the library calls as the host's own.
+  const HookRow row[] = {replace<leftTheApp>("PhotosApplication", "applicationDidEnterBackground:")};
+  installHooks(row);
+  phone_.writePreferences({{"returnToMainDefault", true}});
+  open(From::list);
+  me_.tap("Pets");
+  ASSERT_EQ(openAlbum(), "Pets");
+  openAsTheAppIsLeft = "not left yet";
+  me_.leaveApp();
+  EXPECT_EQ(openAsTheAppIsLeft, "");
 }
 
 TEST_P(EitherWay, OnlyASelectionInTheListForgetsThatALockedAlbumWasOpened) {
