@@ -1,0 +1,61 @@
+# What an iPhone gets: how the library is linked, and the Debian package that it comes in.
+
+set(LOADER_FOLDER Library/MobileSubstrate/DynamicLibraries)
+set(IMAGE_FOLDER "Library/Application Support/velvault12")
+
+# The stubs name what the library takes from the phone. A symbol that they lack does not link: a new dependency is a
+# decision.
+set(STUBS ${CMAKE_CURRENT_LIST_DIR}/stubs)
+foreach(name libobjc libSystem libc++ CoreFoundation Foundation CydiaSubstrate librocketbootstrap)
+  target_link_options(velvault12 PRIVATE ${STUBS}/${name}.tbd)
+endforeach()
+# Loaded for their classes, which are asked for by name. Weak: a process whose system lacks them loads the library all the
+# same.
+foreach(name LocalAuthentication AppSupport)
+  target_link_options(velvault12 PRIVATE LINKER:-weak_library,${STUBS}/${name}.tbd)
+endforeach()
+file(GLOB STUB_FILES CONFIGURE_DEPENDS ${STUBS}/*.tbd)
+set_property(TARGET velvault12 PROPERTY LINK_DEPENDS ${STUB_FILES})
+
+# Nobody calls it by name, so nothing is exported.
+target_link_options(velvault12 PRIVATE -nostdlib LINKER:-dead_strip LINKER:-unexported_symbol,* LINKER:-adhoc_codesign)
+set_target_properties(velvault12 PROPERTIES INSTALL_NAME_DIR /${LOADER_FOLDER} BUILD_WITH_INSTALL_NAME_DIR ON
+  MACHO_CURRENT_VERSION ${PROJECT_VERSION} MACHO_COMPATIBILITY_VERSION ${PROJECT_VERSION})
+# Stripping signs anew. What crash reports are read with stays in the build folder.
+add_custom_command(TARGET velvault12 POST_BUILD
+  COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:velvault12> velvault12.symbols.dylib
+  COMMAND ${CMAKE_STRIP} -x $<TARGET_FILE:velvault12> VERBATIM)
+
+# The package. Modes are told, not taken from the builder's umask; owners become root's.
+find_program(DPKG_DEB dpkg-deb)
+if(NOT DPKG_DEB)
+  message(STATUS "Left out: the package (dpkg-deb not found).")
+  return()
+endif()
+set(CMAKE_INSTALL_MESSAGE NEVER)
+set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(FILTER ${CMAKE_CURRENT_LIST_DIR}/velvault12.plist)
+file(GLOB IMAGES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/*.png)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/control.in ${PROJECT_BINARY_DIR}/control @ONLY)
+install(TARGETS velvault12 LIBRARY DESTINATION ${LOADER_FOLDER})
+install(FILES ${FILTER} DESTINATION ${LOADER_FOLDER})
+install(FILES ${IMAGES} DESTINATION ${IMAGE_FOLDER})
+install(FILES ${PROJECT_BINARY_DIR}/control DESTINATION DEBIAN)
+
+# The same commit packs to the same bytes.
+execute_process(COMMAND git log -1 --format=%ct WORKING_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE COMMIT_TIME
+  OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+if(COMMIT_TIME)
+  set(AT_COMMIT_TIME ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=${COMMIT_TIME})
+endif()
+set(PACKAGE ${PROJECT_SOURCE_DIR}/build/velvault12_${PROJECT_VERSION}_iphoneos-arm.deb)
+set(STAGE ${PROJECT_BINARY_DIR}/stage)
+add_custom_command(OUTPUT ${PACKAGE}
+  COMMAND ${CMAKE_COMMAND} -E rm -rf ${STAGE}
+  COMMAND ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${STAGE}
+  # The oldest compression: a phone's dpkg may be as old.
+  COMMAND ${AT_COMMIT_TIME} ${DPKG_DEB} --root-owner-group -Zgzip --build ${STAGE} ${PACKAGE}
+  DEPENDS velvault12 ${FILTER} ${IMAGES} ${PROJECT_BINARY_DIR}/control
+  COMMENT "Packing ${PACKAGE}" VERBATIM)
+add_custom_target(package_for_phone ALL DEPENDS ${PACKAGE})
