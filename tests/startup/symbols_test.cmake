@@ -1,12 +1,16 @@
 cmake_policy(VERSION 3.25)
 
-# What the built library asks of the process that loads it, and what it shows: cmake -DLIBRARY=... -DNM=... -P
+# What the built library asks of the process that loads it, and what it shows:
+# cmake -DLIBRARY=... -DNM=... -DSTUBS=... -P
 
-# The platform's functions. One that is added here must exist on every phone.
-set(PLATFORM
-  CFNotificationCenterAddObserver CFNotificationCenterGetDarwinNotifyCenter MSHookMessageEx _dispatch_main_q
-  dispatch_async_f notify_post rocketbootstrap_distributedmessagingcenter_apply)
-# The Objective-C and blocks runtimes.
+# The platform's functions are those that the phone's library links with.
+file(GLOB stubs ${STUBS}/*.tbd)
+foreach(stub IN LISTS stubs)
+  file(STRINGS ${stub} lines REGEX "^      - _")
+  list(TRANSFORM lines REPLACE "^      - _" "")
+  list(APPEND PLATFORM ${lines})
+endforeach()
+# This platform's Objective-C and blocks runtimes.
 set(RUNTIMES "^(objc_|object_|class_|sel_|_NSConcrete|_Block_)")
 # Versioned symbols are those of the C and C++ runtimes; sanitizers bring their own.
 set(LANGUAGE "@(GLIBC|GLIBCXX|CXXABI|GCC)_|^(__asan_|__ubsan_|__sanitizer_)|^(__gmon_start__|_ITM_|__cxa_finalize)")
