@@ -43,7 +43,7 @@ install(FILES ${FILTER} DESTINATION ${LOADER_FOLDER})
 install(FILES ${IMAGES} DESTINATION ${IMAGE_FOLDER})
 install(FILES ${PROJECT_BINARY_DIR}/control DESTINATION DEBIAN)
 
-# The same commit packs to the same bytes.
+# The same commit packs to the same bytes: what is newer than it bears its time.
 execute_process(COMMAND git log -1 --format=%ct WORKING_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE COMMIT_TIME
   OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
 if(COMMIT_TIME)
@@ -54,6 +54,7 @@ set(STAGE ${PROJECT_BINARY_DIR}/stage)
 add_custom_command(OUTPUT ${PACKAGE}
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${STAGE}
   COMMAND ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${STAGE}
+  COMMAND find ${STAGE} -type f -exec touch {} +
   # The oldest compression: a phone's dpkg may be as old.
   COMMAND ${AT_COMMIT_TIME} ${DPKG_DEB} --root-owner-group -Zgzip --build ${STAGE} ${PACKAGE}
   DEPENDS velvault12 ${FILTER} ${IMAGES} ${PROJECT_BINARY_DIR}/control
