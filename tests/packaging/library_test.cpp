@@ -57,13 +57,15 @@ std::vector<LoadCommand> loadCommands(const std::string& kind) {
   return found;
 }
 
-std::vector<std::string> namesIn(const std::string& kind) {
-  std::vector<std::string> names;
+/// The libraries that load commands of that kind name, each with the version that it must at least be
+/// compatible with.
+std::vector<std::string> librariesIn(const std::string& kind) {
+  std::vector<std::string> libraries;
   for (const LoadCommand& command : loadCommands(kind)) {
     const std::string& name = command.at("name");
-    names.push_back(name.substr(0, name.find(" (offset")));
+    libraries.push_back(name.substr(0, name.find(" (offset")) + " " + command.at("compatibility"));
   }
-  return names;
+  return libraries;
 }
 
 TEST(PhoneLibrary, IsForArm64PhonesFromIos11On) {
@@ -75,18 +77,23 @@ TEST(PhoneLibrary, IsForArm64PhonesFromIos11On) {
   EXPECT_THAT(loadCommands("LC_BUILD_VERSION"), IsEmpty());
 }
 
+// A phone's loader refuses a library that calls itself compatible with less than is asked for; nothing is.
 TEST(PhoneLibrary, LoadsWhatItNeedsAndFailsForNothingElse) {
-  EXPECT_THAT(namesIn("LC_ID_DYLIB"),
-              ElementsAre("/Library/MobileSubstrate/DynamicLibraries/velvault12.dylib"));
-  EXPECT_THAT(namesIn("LC_LOAD_DYLIB"),
-              ElementsAre("/usr/lib/libobjc.A.dylib", "/usr/lib/libSystem.B.dylib", "/usr/lib/libc++.1.dylib",
-                          "/System/Library/Frameworks/CoreFoundation.framework/CoreFoundation",
-                          "/System/Library/Frameworks/Foundation.framework/Foundation",
-                          "/Library/Frameworks/CydiaSubstrate.framework/CydiaSubstrate",
-                          "/usr/lib/librocketbootstrap.dylib"));
-  EXPECT_THAT(namesIn("LC_LOAD_WEAK_DYLIB"),
-              ElementsAre("/System/Library/Frameworks/LocalAuthentication.framework/LocalAuthentication",
-                          "/System/Library/PrivateFrameworks/AppSupport.framework/AppSupport"));
+  EXPECT_THAT(
+      librariesIn("LC_ID_DYLIB"),
+      ElementsAre("/Library/MobileSubstrate/DynamicLibraries/velvault12.dylib version " VELVAULT12_VERSION));
+  EXPECT_THAT(librariesIn("LC_LOAD_DYLIB"),
+              ElementsAre("/usr/lib/libobjc.A.dylib version 0.0.0",
+                          "/usr/lib/libSystem.B.dylib version 0.0.0", "/usr/lib/libc++.1.dylib version 0.0.0",
+                          "/System/Library/Frameworks/CoreFoundation.framework/CoreFoundation version 0.0.0",
+                          "/System/Library/Frameworks/Foundation.framework/Foundation version 0.0.0",
+                          "/Library/Frameworks/CydiaSubstrate.framework/CydiaSubstrate version 0.0.0",
+                          "/usr/lib/librocketbootstrap.dylib version 0.0.0"));
+  EXPECT_THAT(
+      librariesIn("LC_LOAD_WEAK_DYLIB"),
+      ElementsAre(
+          "/System/Library/Frameworks/LocalAuthentication.framework/LocalAuthentication version 0.0.0",
+          "/System/Library/PrivateFrameworks/AppSupport.framework/AppSupport version 0.0.0"));
 }
 
 /// A symbol and the library that it is bound to, "_strlen from libSystem".
@@ -123,10 +130,23 @@ TEST(PhoneLibrary, TakesExactlyWhatTheStubsName) {
   EXPECT_THAT(differing, IsEmpty());
 }
 
+TEST(PhoneLibrary, TakesFromTheSystemWhatTheSystemHas) {
+  std::ifstream file(VELVAULT12_SYSTEM);
+  std::set<std::string> exported;
+  for (std::string word; file >> word;) {
+    std::erase_if(word, [](char character) { return character == ',' || character == '\''; });
+    exported.insert(word);
+  }
+  for (const std::string& entry : boundSymbols()) {
+    const std::string symbol = entry.substr(0, entry.find(' '));
+    EXPECT_EQ(entry.ends_with(" from libSystem"), exported.contains(symbol)) << entry;
+  }
+}
+
 TEST(PhoneLibrary, ShowsNothingAndKeepsNoNames) {
   EXPECT_EQ(objdump("--exports-trie").back(), "Exports trie:");
   EXPECT_THAT(linesOf(VELVAULT12_NM " --defined-only " + quoted(kLibrary) + " 2>/dev/null"), IsEmpty());
-  EXPECT_THAT(fileContent(), Not(HasSubstr(VELVAULT12_SOURCES)));
+  EXPECT_EQ(fileContent().find(VELVAULT12_SOURCES), std::string::npos) << "the builder's folder";
 }
 
 TEST(PhoneLibrary, RunsOneInitializer) {
