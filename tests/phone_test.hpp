@@ -17,9 +17,19 @@
 #include "device/device.hpp"
 #include "device/system/process.hpp"
 #include "device/system/run_loop.hpp"
+#include "device/system/sockets.hpp"
 #include "host/dispatch.hpp"
+#include "host/foundation.hpp"
 
 namespace velvault12 {
+
+/// Entries without an object are left out, as a sender would that has none. Autoreleased.
+inline NSMutableDictionary dictionaryOf(
+    std::initializer_list<std::pair<std::string_view, Object>> entries = {}) {
+  auto dictionary = makeObject<NSMutableDictionary>();
+  for (const auto& [key, object] : entries) dictionary->set(key, object);
+  return std::move(dictionary).autorelease();
+}
 
 /// A folder of its own that goes with it.
 class TemporaryFolder {
@@ -64,6 +74,8 @@ class FolderEvents {
 /// of its apps, once: ctest runs each case in a process of its own.
 class PhoneTest : public ::testing::Test {
  protected:
+  static constexpr std::string_view kPreferences =
+      "/var/mobile/Library/Preferences/com.qdx.velvault12prefs.plist";
   static constexpr std::string_view kStateFolder = "/var/mobile/Library/velvault";
   static constexpr std::string_view kLockedAlbums = "/var/mobile/Library/velvault/lockedAlbums.plist";
   static constexpr std::string_view kPassword = "/var/mobile/Library/velvault/settings.tct";
@@ -74,6 +86,11 @@ class PhoneTest : public ::testing::Test {
   using Titles = std::vector<std::string>;
 
   PhoneTest() { phone_.install(VELVAULT12_LIBRARY, VELVAULT12_FILTER); }
+
+  /// Makes this process that app, which does not start.
+  void become(std::string_view bundleIdentifier) const {
+    device::become({phone_.folder(), std::string(bundleIdentifier)});
+  }
 
   void write(std::string_view phonePath, std::string_view bytes) const {
     const std::filesystem::path path = phone_.onDisk(phonePath);
@@ -88,6 +105,12 @@ class PhoneTest : public ::testing::Test {
   }
   bool hasFile(std::string_view phonePath) const { return std::filesystem::exists(phone_.onDisk(phonePath)); }
   void remove(std::string_view phonePath) const { std::filesystem::remove_all(phone_.onDisk(phonePath)); }
+  /// How many observers the notification has, in all processes.
+  std::ptrdiff_t observers(std::string_view notification) const {
+    const auto folder = phone_.folder() / "run/notifications" / device::fileNameOf(notification);
+    if (!std::filesystem::exists(folder)) return 0;
+    return std::distance(std::filesystem::directory_iterator(folder), {});
+  }
 
   /// Runs this process's app until the condition holds.
   static bool soon(const std::function<bool()>& condition) {

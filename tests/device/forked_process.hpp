@@ -10,82 +10,61 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "device/system/sockets.hpp"
 #include "device/user/user.hpp"
 
 namespace velvault12 {
 
-/// One end of a conversation between the test and a process that it forked.
-class Line {
- public:
-  explicit Line(int socket) : socket_(socket) {
-    const timeval patience{.tv_sec = device::kPatience.count() / 1000, .tv_usec = 0};
-    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-  }
-  void say(std::string_view text) const { device::sendFrame(socket_.get(), text); }
-  /// What the other end says next; "" when it has ended or keeps silent.
-  std::string hear() const { return device::receiveFrame(socket_.get()).value_or(""); }
-
- private:
-  device::Descriptor socket_;
-};
-
-/// A process that is a copy of this one, for as long as this object lives at the most. To be made while this
-/// process is no app and has no threads.
+/// A process that is a copy of this one, for as long as this object lives at the most. The test speaks to the
+/// process through it, and the process to the test. To be made while this process is no app and has no
+/// threads.
 class ForkedProcess {
  public:
-  using Life = std::function<void(const Line& test)>;
+  using Life = std::function<void(const ForkedProcess& test)>;
 
-  explicit ForkedProcess(const Life& life) : ForkedProcess(ends(), life) {}
-  ~ForkedProcess() { kill(); }
+  explicit ForkedProcess(const Life& life) {
+    int ends[2] = {-1, -1};
+    socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends);
+    const timeval patience{.tv_sec = device::kPatience.count() / 1000, .tv_usec = 0};
+    for (const int end : ends) setsockopt(end, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+    const pid_t parent = getpid();
+    process_ = fork();
+    const bool isChild = process_ == 0;
+    line_ = device::Descriptor(ends[isChild ? 1 : 0]);
+    close(ends[isChild ? 0 : 1]);
+    if (isChild) live(parent, life);
+  }
+  ~ForkedProcess() {
+    if (process_ <= 0) return;
+    kill(process_, SIGKILL);
+    waitpid(process_, nullptr, 0);
+  }
   ForkedProcess(const ForkedProcess&) = delete;
   ForkedProcess& operator=(const ForkedProcess&) = delete;
 
-  pid_t process() const { return process_; }
-  void say(std::string_view text) const { line_.say(text); }
-  std::string hear() const { return line_.hear(); }
+  void say(std::string_view text) const { device::sendFrame(line_.get(), text); }
+  /// What the other end says next; "" when it has ended or keeps silent.
+  std::string hear() const { return device::receiveFrame(line_.get()).value_or(""); }
 
   void stop() const {
-    ::kill(process_, SIGSTOP);
+    kill(process_, SIGSTOP);
     waitpid(process_, nullptr, WUNTRACED);
   }
-  void goOn() const { ::kill(process_, SIGCONT); }
-  void kill() {
-    if (process_ <= 0) return;
-    ::kill(process_, SIGKILL);
-    waitpid(std::exchange(process_, -1), nullptr, 0);
-  }
+  void goOn() const { kill(process_, SIGCONT); }
 
  private:
-  using Ends = std::pair<int, int>;
-  static Ends ends() {
-    int sockets[2] = {-1, -1};
-    socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, sockets);
-    return {sockets[0], sockets[1]};
-  }
-
-  ForkedProcess(Ends ends, const Life& life) : line_(ends.first) {
-    const pid_t parent = getpid();
-    process_ = fork();
-    if (process_ == 0) live(ends, parent, life);
-    close(ends.second);
-  }
-  [[noreturn]] static void live(Ends ends, pid_t parent, const Life& life) {
+  [[noreturn]] void live(pid_t parent, const Life& life) const {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    if (getppid() != parent) _exit(1);
-    close(ends.first);
-    const Line test(ends.second);
     try {
-      life(test);
+      if (getppid() == parent) life(*this);
     } catch (const std::exception& error) {
-      test.say(error.what());
+      say(error.what());
     }
     _exit(0);
   }
 
-  Line line_;
+  device::Descriptor line_;
   pid_t process_ = -1;
 };
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
+#include <map>
 
 #include "device/apps/app.hpp"
 #include "device/system/loader.hpp"
@@ -17,61 +17,7 @@ namespace {
 
 using device::OwnerAnswer;
 
-class SpringBoardApp : public PhoneTest {
- protected:
-  static constexpr std::string_view kPhotos = "com.apple.mobileslideshow";
-
-  void boot(const std::map<std::string, device::Device::Preference>& preferences = {}) {
-    phone_.writePreferences(preferences);
-    phone_.launchHere(device::kSpringBoard);
-    answered_.emplace(phone_, kAnswered);
-  }
-
-  static Ref<NSMutableDictionary> request(int method, Object album) {
-    Ref<NSMutableDictionary> request = makeObject<NSMutableDictionary>();
-    request->set(key::kSender, NSString::from(kPhotos));
-    request->set(key::kMethod, NSNumber::from(method));
-    request->set(key::kAlbumName, album);
-    request->set(key::kController, NSString::from("PUSomeController"));
-    return request;
-  }
-  static void authenticate(Object userInfo) {
-    call<"authenticate:withUserInfo:">(kAuthenticateMessage, userInfo);
-  }
-  static void saveArray(Object userInfo) {
-    call<"handleMessageNamed:withUserInfo:">(kSaveArrayMessage, userInfo);
-  }
-  static Ref<NSMutableDictionary> saveRequest(Object array, Object path) {
-    Ref<NSMutableDictionary> request = makeObject<NSMutableDictionary>();
-    request->set(key::kArray, array);
-    request->set(key::kPath, path);
-    return request;
-  }
-
-  std::string answer(std::string_view name) const {
-    const auto file = phone_.dictionary(kAnswer);
-    return file && file->contains(std::string(name)) ? file->at(std::string(name)) : "missing";
-  }
-  bool soonAnswered(int times) {
-    return soon([&] { return answered_->count() == times; });
-  }
-  void expectSilence() {
-    turn();
-    EXPECT_FALSE(hasFile(kAnswer));
-    EXPECT_EQ(answered_->count(), 0);
-  }
-
-  device::User me_ = device::User::here();
-  std::optional<device::NotificationCounter> answered_;
-  AutoreleasePool pool_;
-
- private:
-  template <Name Selector>
-  static void call(std::string_view message, Object userInfo) {
-    UIApplication::sharedApplication().send<Selector, Object(NSString, Object)>(NSString::from(message),
-                                                                                userInfo);
-  }
-};
+NSString text(std::string_view utf8) { return NSString::from(utf8); }
 
 bool isServed() {
   return CPDistributedMessagingCenter::centerNamed(kServiceName).send<"doesServerExist", bool()>();
@@ -81,151 +27,116 @@ void ownLaunch(SpringBoard, Replaced<void(UIApplication)> host, UIApplication ap
   host(application);
   wasServedBefore = isServed();
 }
-
-TEST_F(SpringBoardApp, ServesOnceItsOwnLaunchIsOver) {
-  device::become({phone_.folder(), std::string(device::kSpringBoard)});
-  // Replaced before the library comes, so that this is what the library calls as the host's own.
-  const HookRow row[] = {replace<ownLaunch>("SpringBoard", "applicationDidFinishLaunching:")};
-  installHooks(row);
-  device::loadInjectedLibraries();
-  device::startApp(device::kSpringBoard);
-  EXPECT_FALSE(wasServedBefore);
-  EXPECT_TRUE(isServed());
-}
-
-TEST_F(SpringBoardApp, TheAnswerIsTheRequestWithItsOutcome) {
-  boot({{"passOption", 1}});
-  EXPECT_TRUE(UIApplication::sharedApplication().keyWindow()) << "SpringBoard's own launch went on";
-  authenticate(request(2, NSString::from("Holidays")).get());
-  EXPECT_EQ(answered_->count(), 1);
-  EXPECT_EQ(*phone_.dictionary(kAnswer),
-            (std::map<std::string, std::string>{{"id", "com.apple.springboard"},
-                                                {"type", "SpringBoard"},
-                                                {"success", "0"},
-                                                {"method", "2"},
-                                                {"albumName", "Holidays"},
-                                                {"controller", "PUSomeController"}}));
-  EXPECT_EQ(me_.ownerRequest(), "");
-}
-
-TEST_F(SpringBoardApp, AnyOtherOptionAnswersYesAndAReloadChangesIt) {
-  boot({{"passOption", 7}});
-  authenticate(request(0, NSString::from("Holidays")).get());
-  EXPECT_EQ(answer("success"), "1");
-  EXPECT_EQ(me_.ownerRequest(), "");
-  phone_.writePreferences({{"passOption", 0}});
-  phone_.post(kReload);
-  EXPECT_TRUE(soon([&] {
-    authenticate(request(0, NSString::from("Holidays")).get());
-    return !me_.ownerRequest().empty();
-  }));
-}
-
-TEST_F(SpringBoardApp, TheOwnerIsAskedByNameAndOnlySuccessIsAnswered) {
-  boot();
-  for (const OwnerAnswer silent : {OwnerAnswer::cancel, OwnerAnswer::failure}) {
-    authenticate(request(0, NSString::from("100 %@ \u2603")).get());
-    EXPECT_EQ(me_.ownerRequest(), "100 %@ \u2603 needs to be unlocked.");
-    me_.answerOwnerRequest(silent);
-    expectSilence();
-  }
-  {
-    const AutoreleasePool turn;
-    authenticate(request(1, NSString::from("Holidays")).get());
-    authenticate(request(1, NSString::from("Holidays")).get());
-  }
-  me_.answerOwnerRequest(OwnerAnswer::success);
-  me_.answerOwnerRequest(OwnerAnswer::cancel);
-  EXPECT_TRUE(soonAnswered(1));
-  EXPECT_EQ(answer("success"), "1");
-  EXPECT_EQ(answer("method"), "1");
-}
-
 int writesElsewhere = 0;
 bool countWrites(NSDictionary, Replaced<bool(NSString, bool)> host, NSString path, bool atomically) {
   if (!sendToClass<"isMainThread", bool()>(classNamed<"NSThread">())) ++writesElsewhere;
   return host(path, atomically);
 }
 
-TEST_F(SpringBoardApp, TheAnswerIsWrittenOnTheMainThread) {
-  boot();
-  const HookRow row[] = {replace<countWrites>("NSDictionary", "writeToFile:atomically:")};
-  installHooks(row);
-  authenticate(request(0, NSString::from("Holidays")).get());
+class SpringBoardApp : public PhoneTest {
+ protected:
+  SpringBoardApp() {
+    become(device::kSpringBoard);
+    // Replaced before the library comes, so that these are what the library calls as the host's own.
+    const HookRow rows[] = {replace<ownLaunch>("SpringBoard", "applicationDidFinishLaunching:"),
+                            replace<countWrites>("NSDictionary", "writeToFile:atomically:")};
+    installHooks(rows);
+    device::loadInjectedLibraries();
+    device::startApp(device::kSpringBoard);
+  }
+
+  static NSDictionary openingOf(Object album) {
+    return dictionaryOf({{key::kMethod, NSNumber::from(2)}, {key::kAlbumName, album}});
+  }
+  static NSDictionary savingOf(Object array, Object path) {
+    return dictionaryOf({{key::kArray, array}, {key::kPath, path}});
+  }
+  template <Name Selector>
+  static void request(Object userInfo) {
+    UIApplication::sharedApplication().send<Selector, Object(NSString, Object)>(NSString(), userInfo);
+  }
+  static void open(Object userInfo) { request<"authenticate:withUserInfo:">(userInfo); }
+  static void save(Object userInfo) { request<"handleMessageNamed:withUserInfo:">(userInfo); }
+
+  device::User me_ = device::User::here();
+  device::NotificationCounter answered_{phone_, kAnswered};
+  AutoreleasePool pool_;
+};
+
+TEST_F(SpringBoardApp, ServesOnceItsOwnLaunchIsOver) {
+  EXPECT_TRUE(UIApplication::sharedApplication().keyWindow());
+  EXPECT_FALSE(wasServedBefore);
+  EXPECT_TRUE(isServed());
+}
+
+TEST_F(SpringBoardApp, AnswersAtOnceWhereNobodyIsToBeAskedAndFollowsTheSettings) {
+  int answers = 0;
+  const auto answersAtOnce = [&] {
+    open(openingOf(text("Holidays")));
+    return me_.ownerRequest().empty() && answered_.count() == ++answers;
+  };
+  for (const auto& [passOption, success] : std::map<int, std::string>{{0, "0"}, {1, "0"}, {7, "1"}}) {
+    phone_.writePreferences({{"passOption", passOption}});
+    phone_.post(kReload);
+    turn();
+    me_.setPasscode(passOption != 0);
+    EXPECT_TRUE(answersAtOnce()) << passOption;
+    const std::map<std::string, std::string> answer{{"id", "com.apple.springboard"},
+                                                    {"type", "SpringBoard"},
+                                                    {"success", success},
+                                                    {"method", "2"},
+                                                    {"albumName", "Holidays"}};
+    EXPECT_EQ(phone_.dictionary(kAnswer), answer) << passOption;
+  }
+  remove(kStateFolder);
+  EXPECT_TRUE(answersAtOnce()) << "where no answer can be written as well";
+  EXPECT_FALSE(hasFile(kAnswer));
+}
+
+TEST_F(SpringBoardApp, AsksTheOwnerByTitleAndAnswersOnlySuccessOnTheMainThread) {
+  const Object odd[] = {Object(), NSNumber::from(3), NSArray::from({"x"})};
+  for (const Object none : odd) {
+    open(none);
+    EXPECT_EQ(me_.ownerRequest(), "");
+  }
+  for (const OwnerAnswer silent : {OwnerAnswer::cancel, OwnerAnswer::failure}) {
+    for (const Object untitled : odd) {
+      open(openingOf(untitled));
+      EXPECT_EQ(me_.ownerRequest(), "(null) needs to be unlocked.");
+      me_.answerOwnerRequest(silent);
+    }
+  }
+  turn();
+  EXPECT_FALSE(hasFile(kAnswer));
+  EXPECT_EQ(answered_.count(), 0);
+  {
+    const AutoreleasePool turn;
+    for (int i = 0; i < 2; ++i) open(openingOf(text("100 %@ \u2603")));
+  }
+  EXPECT_EQ(me_.ownerRequest(), "100 %@ \u2603 needs to be unlocked.");
   me_.answerOwnerRequest(OwnerAnswer::success);
-  EXPECT_TRUE(soonAnswered(1));
+  me_.answerOwnerRequest(OwnerAnswer::cancel);
+  EXPECT_TRUE(soon([&] { return answered_.count() == 1; }));
+  EXPECT_EQ(phone_.dictionary(kAnswer)->at("success"), "1");
   EXPECT_EQ(writesElsewhere, 0);
 }
 
-TEST_F(SpringBoardApp, APhoneWithoutPasscodeAnswersNoAtOnce) {
-  boot();
-  me_.setPasscode(false);
-  authenticate(request(0, NSString::from("Holidays")).get());
-  EXPECT_EQ(answered_->count(), 1);
-  EXPECT_EQ(answer("success"), "0");
-}
-
-TEST_F(SpringBoardApp, OddRequestsToAuthenticate) {
-  boot();
-  for (const Object none : {Object(), Object(NSString::from("x")), Object(NSArray::from({"x"}))}) {
-    authenticate(none);
-    EXPECT_EQ(me_.ownerRequest(), "");
-    expectSilence();
+TEST_F(SpringBoardApp, SavesAnArrayWhereverItIsToldAndNothingElse) {
+  for (const std::string_view path : {kLockedAlbums, std::string_view("/private/var/mobile/Media/x.plist")}) {
+    for (const Titles& titles : {Titles(), Titles{"Holidays", "<&> \u2603"}}) {
+      save(savingOf(NSArray::from(titles), text(path)));
+      EXPECT_EQ(phone_.strings(path), titles) << path;
+    }
   }
-  for (const Object album : {Object(), Object(NSNumber::from(3)), Object(NSArray::from({"x"}))}) {
-    authenticate(request(0, album).get());
-    EXPECT_EQ(me_.ownerRequest(), "(null) needs to be unlocked.");
-    me_.answerOwnerRequest(OwnerAnswer::cancel);
+  const Object list = text(kLockedAlbums);
+  const Object array = NSArray::from({"x"});
+  for (const NSDictionary odd :
+       {savingOf({}, list), savingOf(text("x"), list), savingOf(openingOf({}), list), savingOf(array, {}),
+        savingOf(array, NSNumber::from(1)), savingOf(array, text("")), savingOf(array, text(kStateFolder))}) {
+    save(odd);
   }
-}
-
-TEST_F(SpringBoardApp, SaveArrayWritesWhereverItIsTold) {
-  boot();
-  for (const std::string_view path :
-       {kLockedAlbums, std::string_view("/private/var/mobile/Library/velvault/album.tct"),
-        std::string_view("/var/mobile/Media/elsewhere.plist")}) {
-    const auto titles = NSArray::from({"Holidays", "<&> \u2603"});
-    saveArray(saveRequest(titles, NSString::from(path)).get());
-    EXPECT_EQ(phone_.strings(path), (Titles{"Holidays", "<&> \u2603"})) << path;
-    saveArray(saveRequest(NSArray::from({}), NSString::from(path)).get());
-    EXPECT_EQ(phone_.strings(path), Titles{}) << path;
-  }
-}
-
-TEST_F(SpringBoardApp, OddRequestsToSaveChangeNothing) {
-  boot();
-  const NSString path = NSString::from(kLockedAlbums);
-  saveArray(saveRequest(NSArray::from({"Holidays"}), path).get());
-  saveArray(Object());
-  saveArray(NSString::from("x"));
-  saveArray(saveRequest(Object(), path).get());
-  saveArray(saveRequest(NSString::from("x"), path).get());
-  saveArray(saveRequest(request(0, Object()).get(), path).get());
-  saveArray(saveRequest(NSArray::from({"x"}), Object()).get());
-  saveArray(saveRequest(NSArray::from({"x"}), NSNumber::from(1)).get());
-  saveArray(saveRequest(NSArray::from({"x"}), NSString::from("")).get());
-  saveArray(saveRequest(NSArray::from({"x"}), NSString::from(kStateFolder)).get());
-  EXPECT_EQ(phone_.strings(kLockedAlbums), Titles{"Holidays"});
-}
-
-TEST_F(SpringBoardApp, TheCentreHandsMessagesToTheServices) {
-  boot({{"passOption", 2}});
-  const auto center = CPDistributedMessagingCenter::centerNamed(kServiceName);
-  center.sendMessage(kSaveArrayMessage,
-                     saveRequest(NSArray::from({"Pets"}), NSString::from(kLockedAlbums)).get());
-  center.sendMessage(kAuthenticateMessage, request(0, NSString::from("Pets")).get());
-  center.sendMessage("nosuchmessage", request(0, NSString::from("Pets")).get());
-  center.sendMessage(kAuthenticateMessage, NSDictionary());
-  EXPECT_TRUE(soonAnswered(1));
-  EXPECT_EQ(phone_.strings(kLockedAlbums), Titles{"Pets"});
-}
-
-TEST_F(SpringBoardApp, AnAnswerThatCannotBeWrittenIsStillPosted) {
-  boot({{"passOption", 2}});
-  remove(kStateFolder);
-  authenticate(request(0, NSString::from("Holidays")).get());
-  EXPECT_EQ(answered_->count(), 1);
-  EXPECT_FALSE(hasFile(kAnswer));
+  for (const Object none : {Object(), Object(text("x"))}) save(none);
+  EXPECT_EQ(phone_.strings(kLockedAlbums), (Titles{"Holidays", "<&> \u2603"}));
 }
 
 }  // namespace
