@@ -102,12 +102,18 @@ Device::Device(const fs::path& folder) : folder_(fs::absolute(folder).lexically_
 
 fs::path Device::onDisk(std::string_view phonePath) const { return Disk(folder_, false).locate(phonePath); }
 
-void Device::install(const fs::path& library, const fs::path& filter) const {
+void Device::install(const fs::path& library, const fs::path& filter, const fs::path& images) const {
   const fs::path installed = onDisk("/Library/MobileSubstrate/DynamicLibraries") / library.stem();
   // Removed first: a running app may have the old one loaded.
   fs::remove(installed.native() + ".dylib");
   fs::copy_file(library, installed.native() + ".dylib");
   fs::copy_file(filter, installed.native() + ".plist", fs::copy_options::overwrite_existing);
+  const fs::path support = onDisk("/Library/Application Support") / library.stem();
+  fs::create_directories(support);
+  for (const auto& image : fs::directory_iterator(images)) {
+    if (image.path().extension() != ".png") continue;
+    fs::copy_file(image, support / image.path().filename(), fs::copy_options::overwrite_existing);
+  }
 }
 
 App Device::launch(std::string_view bundleIdentifier) const {

@@ -45,8 +45,10 @@ class Device {
   /// Where a path of the phone ("/var/mobile/...", "/private/var/...", "/Library/...") lies on this machine.
   std::filesystem::path onDisk(std::string_view phonePath) const;
 
-  /// Puts a library and its filter property list where the phone's loader looks, under the library's stem.
-  void install(const std::filesystem::path& library, const std::filesystem::path& filter) const;
+  /// Puts a library and its filter property list where the phone's loader looks, under the library's stem,
+  /// and the PNG files of a folder where the library looks for its images.
+  void install(const std::filesystem::path& library, const std::filesystem::path& filter,
+               const std::filesystem::path& images) const;
 
   /// Starts an app of the phone and returns when it has finished launching. Throws when it does not.
   App launch(std::string_view bundleIdentifier) const;

@@ -8,13 +8,6 @@ namespace {
 
 constexpr NSUInteger kUtf8Encoding = 4;
 
-template <class View>
-Ref<View> readFile(std::string_view path) {
-  const auto allocated = View(sendToClass<"alloc", id()>(View::hostClass()));
-  return Ref<View>::adopt(
-      allocated.template send<"initWithContentsOfFile:", View(NSString)>(NSString::from(path)));
-}
-
 }  // namespace
 
 NSString NSString::from(std::string_view utf8) {
@@ -36,10 +29,9 @@ std::string NSString::utf8() const {
 }
 
 std::optional<std::string> NSString::contentsOfFile(std::string_view path) {
-  const auto allocated = NSString(sendToClass<"alloc", id()>(hostClass()));
-  const auto text = Ref<NSString>::adopt(
-      allocated.send<"initWithContentsOfFile:encoding:error:", NSString(NSString, NSUInteger, id*)>(
-          from(path), kUtf8Encoding, nullptr));
+  constexpr id* kNoError = nullptr;
+  const auto text =
+      makeObject<NSString, "initWithContentsOfFile:encoding:error:">(from(path), kUtf8Encoding, kNoError);
   if (!text) return std::nullopt;
   return text->utf8();
 }
@@ -73,17 +65,24 @@ NSArray NSArray::from(const std::vector<std::string>& strings) {
   return array;
 }
 
+NSArray NSArray::of(Object object) {
+  const auto array = sendToClass<"array", NSMutableArray()>(NSMutableArray::hostClass());
+  array.addObject(object);
+  return array;
+}
+
 std::vector<std::string> NSArray::strings() const {
   std::vector<std::string> texts;
-  const NSUInteger size = count();
-  texts.reserve(size);
-  for (NSUInteger i = 0; i < size; ++i) {
-    if (const auto string = objectAtIndex(i).as<NSString>()) texts.push_back(string.utf8());
+  texts.reserve(count());
+  for (const Object element : *this) {
+    if (const auto string = element.as<NSString>()) texts.push_back(string.utf8());
   }
   return texts;
 }
 
-Ref<NSArray> NSArray::contentsOfFile(std::string_view path) { return readFile<NSArray>(path); }
+Ref<NSArray> NSArray::contentsOfFile(std::string_view path) {
+  return makeObject<NSArray, "initWithContentsOfFile:">(NSString::from(path));
+}
 
 NSDictionary NSDictionary::contentsOfFile(std::string_view path) {
   return sendToClass<"dictionaryWithContentsOfFile:", NSDictionary(NSString)>(hostClass(),
@@ -103,6 +102,17 @@ NSString NSBundle::localizedString(std::string_view key) const {
 bool NSFileManager::createDirectoryAtPath(NSString path) const {
   return send<"createDirectoryAtPath:withIntermediateDirectories:attributes:error:",
               bool(NSString, bool, NSDictionary, id*)>(path, true, NSDictionary(), nullptr);
+}
+
+NSPredicate NSPredicate::make(std::string_view format, NSString argument) {
+  // Not the variadic one: its arguments travel elsewhere than those of any other method.
+  return sendToClass<"predicateWithFormat:argumentArray:", NSPredicate(NSString, NSArray)>(
+      hostClass(), NSString::from(format), NSArray::of(argument));
+}
+
+NSSortDescriptor NSSortDescriptor::make(std::string_view key, bool ascending) {
+  return sendToClass<"sortDescriptorWithKey:ascending:", NSSortDescriptor(NSString, bool)>(
+      hostClass(), NSString::from(key), ascending);
 }
 
 NSTimer NSTimer::scheduledOnce(double seconds, Object target, SEL action) {

@@ -30,6 +30,23 @@ class NSString : public HostClass<"NSString"> {
   static std::optional<std::string> contentsOfFile(std::string_view path);
 };
 
+/// Goes through a list of the host by index; the list must not change meanwhile.
+template <class List>
+class ListIterator {
+ public:
+  ListIterator(List list, NSUInteger index) : list_(list), index_(index) {}
+  auto operator*() const { return list_.objectAtIndex(index_); }
+  ListIterator& operator++() {
+    ++index_;
+    return *this;
+  }
+  bool operator!=(const ListIterator& other) const { return index_ != other.index_; }
+
+ private:
+  List list_;
+  NSUInteger index_;
+};
+
 class NSNumber : public HostClass<"NSNumber"> {
  public:
   using HostClass::HostClass;
@@ -50,12 +67,16 @@ class NSArray : public HostClass<"NSArray"> {
   NSUInteger count() const { return send<"count", NSUInteger()>(); }
   /// The index is below `count`.
   Object objectAtIndex(NSUInteger index) const { return send<"objectAtIndex:", Object(NSUInteger)>(index); }
+  ListIterator<NSArray> begin() const { return {*this, 0}; }
+  ListIterator<NSArray> end() const { return {*this, count()}; }
   bool writeToFile(NSString path, bool atomically) const {
     return send<"writeToFile:atomically:", bool(NSString, bool)>(path, atomically);
   }
 
   /// Autoreleased.
   static NSArray from(const std::vector<std::string>& strings);
+  /// An array of that one object, an empty one for nil. Autoreleased.
+  static NSArray of(Object object);
   /// The strings among the elements, in order; what is no string is left out.
   std::vector<std::string> strings() const;
   /// A property list file that holds an array; empty when it is missing or holds something else.
@@ -123,11 +144,31 @@ class NSIndexPath : public HostClass<"NSIndexPath"> {
   using HostClass::HostClass;
 };
 
+class NSPredicate : public HostClass<"NSPredicate"> {
+ public:
+  using HostClass::HostClass;
+  /// "%@" in the format stands for the argument. Autoreleased.
+  static NSPredicate make(std::string_view format, NSString argument);
+};
+
+class NSSortDescriptor : public HostClass<"NSSortDescriptor"> {
+ public:
+  using HostClass::HostClass;
+  /// Autoreleased.
+  static NSSortDescriptor make(std::string_view key, bool ascending);
+};
+
+class NSThread : public HostClass<"NSThread"> {
+ public:
+  using HostClass::HostClass;
+  static bool isMainThread() { return sendToClass<"isMainThread", bool()>(hostClass()); }
+};
+
 class NSTimer : public HostClass<"NSTimer"> {
  public:
   using HostClass::HostClass;
   /// Sends `action` to the target once, after that many seconds on the calling thread's run loop; the target
-  /// is kept until then.
+  /// is kept until then. A thread that runs none, such as a queue's, never comes to it.
   static NSTimer scheduledOnce(double seconds, Object target, SEL action);
 };
 

@@ -4,10 +4,23 @@
 #include "host/photos.hpp"
 #include "host/uikit.hpp"
 
-// The Photos app's private classes. Which methods a class has differs between system versions, so every
+// PhotosUI's private classes. Which methods a class has differs between system versions, so every
 // message here may go unanswered, as if to nil.
 
 namespace velvault12 {
+
+class PUAssetHidingHelper : public HostClass<"PUAssetHidingHelper"> {
+ public:
+  using HostClass::HostClass;
+  /// Hides the assets from the library or shows them again, as the host's own menu does. Nothing waits for
+  /// it, and in a process without the class it does nothing.
+  static void apply(bool hidden, NSArray assets) {
+    const auto helper = makeObject<PUAssetHidingHelper>();
+    helper->trySend<"setAssets:", void(NSArray)>(assets);
+    helper->trySend<"applyHiddenState:completionHandler:", void(bool, Block<void()>)>(hidden,
+                                                                                      Block<void()>());
+  }
+};
 
 /// An album's tile: its title, its subtitle and a stack of key photos.
 class PUAlbumListCellContentView : public HostClass<"PUAlbumListCellContentView", UIView> {

@@ -43,11 +43,12 @@ class Ref {
   View object_;
 };
 
-/// A new object of the view's class by `alloc` and `init`; empty where the host lacks the class.
-template <class View>
-Ref<View> makeObject() {
+/// A new object of the view's class by `alloc` and an initializer, whose parameters are of the arguments'
+/// types; empty where the host lacks the class or the initializer answers nil.
+template <class View, Name Initializer = "init", class... Arguments>
+Ref<View> makeObject(Arguments... arguments) {
   const auto allocated = View(sendToClass<"alloc", id()>(View::hostClass()));
-  return Ref<View>::adopt(View(allocated.template send<"init", id()>()));
+  return Ref<View>::adopt(allocated.template send<Initializer, View(Arguments...)>(arguments...));
 }
 
 /// Everything autoreleased while it lives goes with it: for code that the host calls outside its own pools.

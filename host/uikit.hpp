@@ -13,6 +13,7 @@ class UIView;
 class UIColor : public HostClass<"UIColor"> {
  public:
   using HostClass::HostClass;
+  static UIColor clearColor() { return sendToClass<"clearColor", UIColor()>(hostClass()); }
   static UIColor whiteColor() { return sendToClass<"whiteColor", UIColor()>(hostClass()); }
   /// From 0 (black, clear) to 1.
   static UIColor white(double white, double alpha) {
@@ -27,6 +28,15 @@ class UIFont : public HostClass<"UIFont"> {
     return sendToClass<"systemFontOfSize:", UIFont(double)>(hostClass(), points);
   }
 };
+
+/// How large a line of text is, its tail cut off where it does not fit: no larger than `within`, and as large
+/// where the host does not measure.
+inline CGSize lineSize(NSString text, UIFont font, CGSize within) {
+  constexpr NSInteger kTruncateTail = 4;
+  if (!text.responds<"sizeWithFont:constrainedToSize:lineBreakMode:">()) return within;
+  return text.send<"sizeWithFont:constrainedToSize:lineBreakMode:", CGSize(UIFont, CGSize, NSInteger)>(
+      font, within, kTruncateTail);
+}
 
 class CALayer : public HostClass<"CALayer"> {
  public:
@@ -44,19 +54,27 @@ class UIGestureRecognizer : public HostClass<"UIGestureRecognizer"> {
   inline UIView view() const;
 };
 
+/// A new recognizer of that kind. The target is not retained.
+template <class Recognizer>
+Ref<Recognizer> makeRecognizer(Object target, SEL action) {
+  return makeObject<Recognizer, "initWithTarget:action:">(target, action);
+}
+
+/// Of one finger's single tap.
+class UITapGestureRecognizer : public HostClass<"UITapGestureRecognizer", UIGestureRecognizer> {
+ public:
+  using HostClass::HostClass;
+};
+
 class UILongPressGestureRecognizer : public HostClass<"UILongPressGestureRecognizer", UIGestureRecognizer> {
  public:
   using HostClass::HostClass;
-  /// The target is not retained.
-  static Ref<UILongPressGestureRecognizer> make(Object target, SEL action) {
-    const auto allocated = UILongPressGestureRecognizer(sendToClass<"alloc", id()>(hostClass()));
-    return Ref<UILongPressGestureRecognizer>::adopt(
-        allocated.send<"initWithTarget:action:", UILongPressGestureRecognizer(Object, SEL)>(target, action));
-  }
   void setMinimumPressDuration(double seconds) const {
     send<"setMinimumPressDuration:", void(double)>(seconds);
   }
 };
+
+class UIViewController;
 
 class UIView : public HostClass<"UIView"> {
  public:
@@ -65,8 +83,14 @@ class UIView : public HostClass<"UIView"> {
   CGRect bounds() const { return send<"bounds", CGRect()>(); }
   CGRect frame() const { return send<"frame", CGRect()>(); }
   void setFrame(CGRect frame) const { send<"setFrame:", void(CGRect)>(frame); }
+  CGPoint center() const { return send<"center", CGPoint()>(); }
+  void setCenter(CGPoint center) const { send<"setCenter:", void(CGPoint)>(center); }
+  void setTransform(CGAffineTransform transform) const {
+    send<"setTransform:", void(CGAffineTransform)>(transform);
+  }
   void setAlpha(double alpha) const { send<"setAlpha:", void(double)>(alpha); }
   void setBackgroundColor(UIColor color) const { send<"setBackgroundColor:", void(UIColor)>(color); }
+  void setClipsToBounds(bool clips) const { send<"setClipsToBounds:", void(bool)>(clips); }
   void setUserInteractionEnabled(bool enabled) const {
     send<"setUserInteractionEnabled:", void(bool)>(enabled);
   }
@@ -74,6 +98,11 @@ class UIView : public HostClass<"UIView"> {
   /// The receiver or the first of its descendants with that tag.
   UIView viewWithTag(NSInteger tag) const { return send<"viewWithTag:", UIView(NSInteger)>(tag); }
   void addSubview(UIView view) const { send<"addSubview:", void(UIView)>(view); }
+  UIView superview() const { return send<"superview", UIView()>(); }
+  /// A copy.
+  NSArray subviews() const { return send<"subviews", NSArray()>(); }
+  /// The controller that has it on screen; may be nil.
+  inline UIViewController viewControllerForAncestor() const;
   void removeFromSuperview() const { send<"removeFromSuperview", void()>(); }
   CALayer layer() const { return send<"layer", CALayer()>(); }
   /// Nil, or empty, without any.
@@ -82,7 +111,7 @@ class UIView : public HostClass<"UIView"> {
     send<"addGestureRecognizer:", void(UIGestureRecognizer)>(recognizer);
   }
 
-  /// Seconds. The completion is told whether the animation ran to its end.
+  /// Seconds; touches are taken meanwhile. The completion is told whether the animation ran to its end.
   static void animate(double duration, double delay, Block<void()> animations, Block<void(bool)> completion) {
     constexpr NSUInteger kAllowUserInteraction = 2;
     sendToClass<"animateWithDuration:delay:options:animations:completion:",
@@ -92,6 +121,15 @@ class UIView : public HostClass<"UIView"> {
 };
 
 inline UIView UIGestureRecognizer::view() const { return send<"view", UIView()>(); }
+
+/// Whether one of the views that the view lies in is of that class.
+template <class View>
+bool isWithin(UIView view) {
+  while ((view = view.superview())) {
+    if (view.as<View>()) return true;
+  }
+  return false;
+}
 
 class UILabel : public HostClass<"UILabel", UIView> {
  public:
@@ -103,6 +141,31 @@ class UILabel : public HostClass<"UILabel", UIView> {
     constexpr NSInteger kCenter = 1;
     send<"setTextAlignment:", void(NSInteger)>(kCenter);
   }
+  void setNumberOfLines(NSInteger count) const { send<"setNumberOfLines:", void(NSInteger)>(count); }
+  void setAdjustsFontSizeToFitWidth(bool adjusts) const {
+    send<"setAdjustsFontSizeToFitWidth:", void(bool)>(adjusts);
+  }
+  /// Deprecated for long.
+  void setAdjustsLetterSpacingToFitWidth(bool adjusts) const {
+    trySend<"setAdjustsLetterSpacingToFitWidth:", void(bool)>(adjusts);
+  }
+  void setMinimumScaleFactor(double factor) const { send<"setMinimumScaleFactor:", void(double)>(factor); }
+};
+
+class UIImage : public HostClass<"UIImage"> {
+ public:
+  using HostClass::HostClass;
+  /// Empty when the file is missing or no image.
+  static Ref<UIImage> contentsOfFile(std::string_view path) {
+    return makeObject<UIImage, "initWithContentsOfFile:">(NSString::from(path));
+  }
+};
+
+class UIImageView : public HostClass<"UIImageView", UIView> {
+ public:
+  using HostClass::HostClass;
+  /// Takes no touches unless told to. A nil image leaves it empty.
+  static Ref<UIImageView> make(UIImage image) { return makeObject<UIImageView, "initWithImage:">(image); }
 };
 
 class UITextField : public HostClass<"UITextField", UIView> {
@@ -131,6 +194,10 @@ class UIViewController : public HostClass<"UIViewController"> {
         controller, animated, Block<void()>());
   }
 };
+
+inline UIViewController UIView::viewControllerForAncestor() const {
+  return trySend<"_viewControllerForAncestor", UIViewController()>();
+}
 
 class UINavigationController : public HostClass<"UINavigationController", UIViewController> {
  public:
@@ -166,6 +233,13 @@ class UIAlertController : public HostClass<"UIAlertController", UIViewController
   void addTextField(Block<void(UITextField)> configure) const {
     send<"addTextFieldWithConfigurationHandler:", void(Block<void(UITextField)>)>(configure);
   }
+  /// Where an action sheet's popover points to. A pad raises when the sheet is presented without; elsewhere
+  /// it does nothing.
+  void setPopoverSource(UIView view) const {
+    const auto popover = send<"popoverPresentationController", Object()>();
+    popover.send<"setSourceView:", void(UIView)>(view);
+    popover.send<"setSourceRect:", void(CGRect)>(view.bounds());
+  }
   UITextField firstTextField() const {
     const auto fields = send<"textFields", NSArray()>();
     return fields.count() == 0 ? UITextField() : fields.objectAtIndex(0).as<UITextField>();
@@ -184,6 +258,12 @@ class UIDevice : public HostClass<"UIDevice"> {
  public:
   using HostClass::HostClass;
   static UIDevice currentDevice() { return sendToClass<"currentDevice", UIDevice()>(hostClass()); }
+  bool isPad() const {
+    constexpr NSInteger kPad = 1;
+    return send<"userInterfaceIdiom", NSInteger()>() == kPad;
+  }
+  /// `UIDeviceOrientation`: 0 while it is not known.
+  NSInteger orientation() const { return send<"orientation", NSInteger()>(); }
   _UITapticEngine tapticEngine() const { return trySend<"_tapticEngine", _UITapticEngine()>(); }
 };
 

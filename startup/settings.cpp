@@ -11,9 +11,8 @@ namespace {
 Preferences readPreferences() {
   Preferences preferences;
   const NSDictionary file = NSDictionary::contentsOfFile(kPreferencesFile);
-  const NSArray keys = file.allKeys();
-  for (NSUInteger i = 0; i < keys.count(); ++i) {
-    const auto key = keys.objectAtIndex(i).as<NSString>();
+  for (const Object each : file.allKeys()) {
+    const auto key = each.as<NSString>();
     if (!key) continue;
     const Object value = file.objectForKey(key);
     preferences[key.utf8()] = {boolValue(value), intValue(value)};

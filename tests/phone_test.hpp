@@ -20,8 +20,15 @@
 #include "device/system/sockets.hpp"
 #include "host/dispatch.hpp"
 #include "host/foundation.hpp"
+#include "host/runtime.hpp"
 
 namespace velvault12 {
+
+// Foundation's own count of living objects.
+extern "C" {
+ObjcBool GSDebugAllocationActive(ObjcBool active);
+int GSDebugAllocationCount(Class type);
+}
 
 /// Entries without an object are left out, as a sender would that has none. Autoreleased.
 inline NSMutableDictionary dictionaryOf(
@@ -85,7 +92,7 @@ class PhoneTest : public ::testing::Test {
 
   using Titles = std::vector<std::string>;
 
-  PhoneTest() { phone_.install(VELVAULT12_LIBRARY, VELVAULT12_FILTER); }
+  PhoneTest() { phone_.install(VELVAULT12_LIBRARY, VELVAULT12_FILTER, VELVAULT12_IMAGES); }
 
   /// Makes this process that app, which does not start.
   void become(std::string_view bundleIdentifier) const {

@@ -139,9 +139,7 @@ PHCollectionList* everyCollection() {
   UIViewController* gallery = [[[GalleryViewController alloc] init] autorelease];
   UINavigationController* root = [UINavigationController alloc];
   root = [[root initWithRootViewController:gallery] autorelease];
-  _window = [[UIWindow alloc] initWithFrame:[[UIScreen mainScreen] bounds]];
-  [_window setRootViewController:root];
-  [_window makeKeyAndVisible];
+  _window = [[UIWindow alloc] _initShowing:root];
 }
 
 @end

@@ -19,9 +19,7 @@
 }
 
 - (void)applicationDidFinishLaunching:(UIApplication*)application {
-  _window = [[UIWindow alloc] initWithFrame:[[UIScreen mainScreen] bounds]];
-  [_window setRootViewController:[[[UIViewController alloc] init] autorelease]];
-  [_window makeKeyAndVisible];
+  _window = [[UIWindow alloc] _initShowing:[[[UIViewController alloc] init] autorelease]];
 }
 
 @end

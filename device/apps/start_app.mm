@@ -17,6 +17,7 @@ struct InstalledApp {
 constexpr InstalledApp kInstalledApps[] = {
     {kSpringBoard, "SpringBoard"},
     {kPhotos, "PhotosApplication"},
+    {kCamera, "CameraApplication"},
     {kGallery, "GalleryApplication"},
 };
 

@@ -52,9 +52,9 @@ void fillLibrary(PhotoDatabase library) {
 class Phone {
  public:
   Phone(const std::filesystem::path& folder, const std::filesystem::path& library,
-        const std::filesystem::path& filter)
+        const std::filesystem::path& filter, const std::filesystem::path& images)
       : device_(folder) {
-    device_.install(library, filter);
+    device_.install(library, filter, images);
     fillLibrary(device_.photoLibrary());
   }
 
@@ -255,7 +255,7 @@ void withoutSpringBoard(Story& story, Phone& phone) {
 }
 
 int play(const std::filesystem::path& folder) {
-  Phone phone(folder, VELVAULT12_LIBRARY, VELVAULT12_FILTER);
+  Phone phone(folder, VELVAULT12_LIBRARY, VELVAULT12_FILTER, VELVAULT12_IMAGES);
   Story story;
   if (bootAndLook(story, phone)) {
     lockAndOpen(story, phone);

@@ -8,6 +8,7 @@ namespace device {
 
 inline constexpr std::string_view kSpringBoard = "com.apple.springboard";
 inline constexpr std::string_view kPhotos = "com.apple.mobileslideshow";
+inline constexpr std::string_view kCamera = "com.apple.camera";
 inline constexpr std::string_view kGallery = "org.example.gallery";
 
 /// Which app of which device this process is.

@@ -22,7 +22,8 @@ bool actsIn(UIGestureRecognizer::State state) {
 
 void makePressable(PUAlbumListCellContentView tile, UIViewController target) {
   if (!settings().enabled || !tile || tile.gestureRecognizers().count() > 0) return;
-  const auto recognizer = UILongPressGestureRecognizer::make(target, selector<"handleLongPress:">());
+  const auto recognizer =
+      makeRecognizer<UILongPressGestureRecognizer>(target, selector<"handleLongPress:">());
   recognizer->setMinimumPressDuration(kPressSeconds);
   tile.addGestureRecognizer(recognizer.get());
 }

@@ -3,6 +3,7 @@
 #import "device/frameworks/Photos/PHObject.h"
 
 @class PHAssetCollection;
+@class UIColor;
 
 enum PHAssetMediaType : NSInteger { PHAssetMediaTypeImage = 1, PHAssetMediaTypeVideo = 2 };
 
@@ -17,8 +18,10 @@ enum PHAssetMediaType : NSInteger { PHAssetMediaTypeImage = 1, PHAssetMediaTypeV
 @property(nonatomic, readonly) NSDate* creationDate;
 @property(nonatomic, readonly, getter=isHidden) BOOL hidden;
 @property(nonatomic, readonly, getter=isFavorite) BOOL favorite;
-/// The one colour of all its pixels, 0xRRGGBB.
-@property(nonatomic, readonly) std::uint32_t _color;
+/// The one colour of all its pixels.
+@property(nonatomic, readonly) UIColor* _pixelColor;
+/// "Photo, 2020-05-01 12:00:00", or "Video, ...": its creation date in UTC.
+@property(nonatomic, readonly) NSString* _words;
 
 // Options may be nil. Hidden assets are fetched only when the options include them.
 + (PHFetchResult*)fetchAssetsInAssetCollection:(PHAssetCollection*)collection

@@ -5,10 +5,15 @@
 
 #import "device/frameworks/Photos/PHCollection.h"
 #include "device/frameworks/Photos/shared_photo_database.hpp"
+#import "device/frameworks/UIKit/UIColor.h"
 
 namespace {
+
 constexpr NSUInteger kKeyAssets = 3;
-}
+
+CGFloat channel(std::uint32_t color, int shift) { return ((color >> shift) & 0xff) / 255.0; }
+
+}  // namespace
 
 @implementation PHAsset
 
@@ -16,7 +21,6 @@ constexpr NSUInteger kKeyAssets = 3;
 @synthesize creationDate = _creationDate;
 @synthesize hidden = _hidden;
 @synthesize favorite = _favorite;
-@synthesize _color = _color;
 
 - (id)_initWithRow:(const device::AssetRow&)row {
   NSString* identifier = [NSString stringWithFormat:@"%lld/L0/001", static_cast<long long>(row.identifier)];
@@ -33,6 +37,18 @@ constexpr NSUInteger kKeyAssets = 3;
 - (void)dealloc {
   [_creationDate release];
   [super dealloc];
+}
+
+- (UIColor*)_pixelColor {
+  return [UIColor colorWithRed:channel(_color, 16) green:channel(_color, 8) blue:channel(_color, 0) alpha:1];
+}
+
+- (NSString*)_words {
+  NSDateFormatter* formatter = [[[NSDateFormatter alloc] init] autorelease];
+  [formatter setTimeZone:[NSTimeZone timeZoneForSecondsFromGMT:0]];
+  [formatter setDateFormat:@"yyyy-MM-dd HH:mm:ss"];
+  NSString* kind = _mediaType == PHAssetMediaTypeVideo ? @"Video" : @"Photo";
+  return [NSString stringWithFormat:@"%@, %@", kind, [formatter stringFromDate:_creationDate]];
 }
 
 - (std::int64_t)_identifier {

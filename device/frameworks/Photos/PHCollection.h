@@ -14,12 +14,23 @@ enum PHAssetCollectionType : NSInteger {
 
 enum PHAssetCollectionSubtype : NSInteger {
   PHAssetCollectionSubtypeAlbumRegular = 2,
+  PHAssetCollectionSubtypeAlbumSyncedAlbum = 5,
   PHAssetCollectionSubtypeSmartAlbumVideos = 202,
   PHAssetCollectionSubtypeSmartAlbumFavorites = 203,
   PHAssetCollectionSubtypeSmartAlbumAllHidden = 205,
   PHAssetCollectionSubtypeSmartAlbumUserLibrary = 209,
   PHAssetCollectionSubtypeTrashBin = 1000000201,
   PHAssetCollectionSubtypeAny = NSIntegerMax,
+};
+
+enum PHCollectionEditOperation : NSInteger {
+  PHCollectionEditOperationDeleteContent = 1,
+  PHCollectionEditOperationRemoveContent = 2,
+  PHCollectionEditOperationAddContent = 3,
+  PHCollectionEditOperationCreateContent = 4,
+  PHCollectionEditOperationRearrangeContent = 5,
+  PHCollectionEditOperationDelete = 6,
+  PHCollectionEditOperationRename = 7,
 };
 
 enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
@@ -31,6 +42,8 @@ enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
 @property(nonatomic, readonly) NSString* localizedTitle;
 /// The number of an album or folder in the library, 0 for what is not kept there.
 @property(nonatomic, readonly) std::int64_t _identifier;
+/// Whether the owner may do that: anything to albums and folders of the phone's own, nothing to others.
+- (BOOL)canPerformEditOperation:(NSInteger)operation;
 /// The albums and folders at the top level.
 + (PHFetchResult*)fetchTopLevelUserCollectionsWithOptions:(PHFetchOptions*)options;
 @end
@@ -58,6 +71,7 @@ enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
                                               withType:(NSInteger)type
                                                options:(PHFetchOptions*)options;
 
++ (NSString*)_localIdentifierOfAlbum:(std::int64_t)identifier;
 /// Its assets as the library holds them now, hidden ones included.
 - (std::vector<device::AssetRow>)_assetRows;
 @end

@@ -112,6 +112,10 @@ NSArray* collectionsIn(std::int64_t folder) {
   [super dealloc];
 }
 
+- (BOOL)canPerformEditOperation:(NSInteger)operation {
+  return _identifier != 0;
+}
+
 + (PHFetchResult*)fetchTopLevelUserCollectionsWithOptions:(PHFetchOptions*)options {
   return [PHFetchResult _resultOf:collectionsIn(0) options:options];
 }
@@ -124,12 +128,12 @@ NSArray* collectionsIn(std::int64_t folder) {
 @synthesize assetCollectionSubtype = _assetCollectionSubtype;
 
 + (PHAssetCollection*)_album:(const CollectionRow&)row {
-  NSString* identifier = [NSString stringWithFormat:@"%lld/L0/040", static_cast<long long>(row.identifier)];
-  PHAssetCollection* album = [[[self alloc] _initWithLocalIdentifier:identifier
-                                                          identifier:row.identifier
-                                                               title:text(row.title)] autorelease];
+  PHAssetCollection* album =
+      [[[self alloc] _initWithLocalIdentifier:[self _localIdentifierOfAlbum:row.identifier]
+                                   identifier:row.identifier
+                                        title:text(row.title)] autorelease];
   album->_assetCollectionType = PHAssetCollectionTypeAlbum;
-  album->_assetCollectionSubtype = PHAssetCollectionSubtypeAlbumRegular;
+  album->_assetCollectionSubtype = static_cast<NSInteger>(row.subtype);
   return album;
 }
 
@@ -150,8 +154,10 @@ NSArray* collectionsIn(std::int64_t folder) {
   const auto isAskedFor = [&](NSInteger other) {
     return subtype == PHAssetCollectionSubtypeAny || subtype == other;
   };
-  if (type == PHAssetCollectionTypeAlbum && isAskedFor(PHAssetCollectionSubtypeAlbumRegular)) {
-    [found addObjectsFromArray:albums(sharedPhotoDatabase().allAlbums())];
+  if (type == PHAssetCollectionTypeAlbum) {
+    for (PHAssetCollection* album in albums(sharedPhotoDatabase().allAlbums())) {
+      if (isAskedFor([album assetCollectionSubtype])) [found addObject:album];
+    }
   }
   if (type == PHAssetCollectionTypeSmartAlbum) {
     for (const SmartAlbum& album : kSmartAlbums) {
@@ -179,6 +185,10 @@ NSArray* collectionsIn(std::int64_t folder) {
   return [PHFetchResult _resultOf:found options:options];
 }
 
++ (NSString*)_localIdentifierOfAlbum:(std::int64_t)identifier {
+  return [NSString stringWithFormat:@"%lld/L0/040", static_cast<long long>(identifier)];
+}
+
 - (std::vector<AssetRow>)_assetRows {
   if (_assetCollectionType == PHAssetCollectionTypeAlbum) {
     return sharedPhotoDatabase().assetsInAlbum(_identifier);
@@ -186,6 +196,10 @@ NSArray* collectionsIn(std::int64_t folder) {
   std::vector<AssetRow> rows = sharedPhotoDatabase().allAssets();
   std::erase_if(rows, [&](const AssetRow& row) { return !belongs(row, _assetCollectionSubtype); });
   return rows;
+}
+
+- (BOOL)canPerformEditOperation:(NSInteger)operation {
+  return _assetCollectionSubtype == PHAssetCollectionSubtypeAlbumRegular;
 }
 
 - (NSString*)title {

@@ -18,7 +18,8 @@ constexpr const char* kSchema = R"(
     identifier INTEGER PRIMARY KEY AUTOINCREMENT,
     title TEXT NOT NULL,
     isFolder INTEGER NOT NULL,
-    parent INTEGER REFERENCES collection ON DELETE CASCADE);
+    parent INTEGER REFERENCES collection ON DELETE CASCADE,
+    subtype INTEGER NOT NULL);
   CREATE TABLE IF NOT EXISTS asset(
     identifier INTEGER PRIMARY KEY AUTOINCREMENT,
     mediaType INTEGER NOT NULL,
@@ -35,7 +36,7 @@ constexpr const char* kSchema = R"(
 )";
 
 constexpr const char* kCollectionColumns =
-    "SELECT identifier, title, isFolder, ifnull(parent, 0) FROM collection ";
+    "SELECT identifier, title, isFolder, ifnull(parent, 0), subtype FROM collection ";
 constexpr const char* kAssetColumns =
     "SELECT identifier, mediaType, creationDate, isHidden, isFavorite, smartSubtype, color FROM asset ";
 constexpr const char* kOldestFirst = " ORDER BY creationDate, identifier";
@@ -89,18 +90,31 @@ class Statement {
   sqlite3_stmt* statement_ = nullptr;
 };
 
-/// A statement without a result is a transaction of its own.
+/// A statement without a result is a transaction of its own, outside of a larger one.
 template <class... Parameters>
 void change(sqlite3* connection, const std::string& sql, const Parameters&... parameters) {
   Statement(connection, sql, parameters...).step();
 }
 
-std::int64_t insertCollection(sqlite3* connection, std::string_view title, bool isFolder,
-                              std::int64_t folder) {
-  change(connection, "INSERT INTO collection(title, isFolder, parent) VALUES(?, ?, nullif(?, 0))", title,
-         isFolder, folder);
-  return sqlite3_last_insert_rowid(connection);
-}
+/// Several statements as one transaction, taken back unless committed.
+class Transaction {
+ public:
+  explicit Transaction(sqlite3* connection) : connection_(connection) {
+    change(connection, "BEGIN IMMEDIATE");
+  }
+  ~Transaction() {
+    if (sqlite3_get_autocommit(connection_) == 0) {
+      sqlite3_exec(connection_, "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+  }
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+
+  void commit() { change(connection_, "COMMIT"); }
+
+ private:
+  sqlite3* connection_;
+};
 
 template <class... Parameters>
 std::vector<CollectionRow> readCollections(sqlite3* connection, const std::string& condition,
@@ -111,7 +125,8 @@ std::vector<CollectionRow> readCollections(sqlite3* connection, const std::strin
     rows.push_back({.identifier = statement.integer(0),
                     .title = statement.text(1),
                     .isFolder = statement.integer(2) != 0,
-                    .parent = statement.integer(3)});
+                    .parent = statement.integer(3),
+                    .subtype = statement.integer(4)});
   }
   return rows;
 }
@@ -146,11 +161,32 @@ PhotoDatabase::PhotoDatabase(const std::filesystem::path& file) {
 }
 
 std::int64_t PhotoDatabase::addAlbum(std::string_view title, std::int64_t folder) {
-  return insertCollection(connection_.get(), title, false, folder);
+  return addCollection({.title = std::string(title), .parent = folder});
 }
 
 std::int64_t PhotoDatabase::addFolder(std::string_view title, std::int64_t folder) {
-  return insertCollection(connection_.get(), title, true, folder);
+  return addCollection({.title = std::string(title), .isFolder = true, .parent = folder});
+}
+
+std::int64_t PhotoDatabase::addSyncedAlbum(std::string_view title) {
+  return addCollection({.title = std::string(title), .subtype = 5});
+}
+
+std::int64_t PhotoDatabase::addCollection(const CollectionRow& row) {
+  change(connection_.get(),
+         "INSERT INTO collection(identifier, title, isFolder, parent, subtype) "
+         "VALUES(nullif(?, 0), ?, ?, nullif(?, 0), ?)",
+         row.identifier, row.title, row.isFolder, row.parent, row.subtype);
+  return sqlite3_last_insert_rowid(connection_.get());
+}
+
+std::int64_t PhotoDatabase::reserveAlbum() {
+  // The database gives no identifier twice, not even that of a row that is gone.
+  Transaction transaction(connection_.get());
+  const std::int64_t reserved = addAlbum("");
+  removeCollection(reserved);
+  transaction.commit();
+  return reserved;
 }
 
 std::int64_t PhotoDatabase::addAsset(const AssetRow& asset) {
@@ -180,6 +216,17 @@ void PhotoDatabase::renameCollection(std::int64_t collection, std::string_view t
 
 void PhotoDatabase::removeCollection(std::int64_t collection) {
   change(connection_.get(), "DELETE FROM collection WHERE identifier = ?", collection);
+}
+
+std::optional<std::string> PhotoDatabase::tryTransaction(const std::function<void()>& changes) {
+  try {
+    Transaction transaction(connection_.get());
+    changes();
+    transaction.commit();
+    return std::nullopt;
+  } catch (const std::exception& error) {
+    return error.what();
+  }
 }
 
 std::vector<CollectionRow> PhotoDatabase::collections(std::int64_t folder) const {

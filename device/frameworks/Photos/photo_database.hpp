@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -38,10 +39,13 @@ struct CollectionRow {
   bool isFolder = false;
   /// The folder that holds it, 0 at the top level.
   std::int64_t parent = 0;
+  /// An album's: 2 for one of the phone's own, 5 for one that a computer synced to it.
+  std::int64_t subtype = 2;
 };
 
-/// The photo library's database, shared by all processes of a device: each change is one transaction, and
-/// every process sees it at its next fetch.
+/// The photo library's database, shared by all processes of a device: each change is one transaction of
+/// its own unless made in a larger one, and every process sees it at its next fetch. A connection is for one
+/// thread.
 class PhotoDatabase {
  public:
   /// Opens the database, making an empty one (and its folder) where there is none. Throws std::runtime_error.
@@ -49,6 +53,11 @@ class PhotoDatabase {
 
   std::int64_t addAlbum(std::string_view title, std::int64_t folder = 0);
   std::int64_t addFolder(std::string_view title, std::int64_t folder = 0);
+  std::int64_t addSyncedAlbum(std::string_view title);
+  /// Answers the row's identifier, a new one where it has none.
+  std::int64_t addCollection(const CollectionRow& row);
+  /// The identifier of an album to come, which nothing else will get.
+  std::int64_t reserveAlbum();
   /// The row's own identifier is ignored; answers the new one.
   std::int64_t addAsset(const AssetRow& asset);
   void addToAlbum(std::int64_t asset, std::int64_t album);
@@ -57,6 +66,10 @@ class PhotoDatabase {
   void renameCollection(std::int64_t collection, std::string_view title);
   /// A folder's contents go with it; assets stay in the library.
   void removeCollection(std::int64_t collection);
+
+  /// Performs changes of this database as one transaction. What they throw takes all of them back; its text
+  /// is answered.
+  std::optional<std::string> tryTransaction(const std::function<void()>& changes);
 
   /// In the order in which they were added.
   std::vector<CollectionRow> collections(std::int64_t folder = 0) const;

@@ -5,7 +5,7 @@
 namespace device {
 
 PhotoDatabase& sharedPhotoDatabase() {
-  static PhotoDatabase database(diskOfThisProcess().locate(kPhotoDatabasePath));
+  thread_local PhotoDatabase database(diskOfThisProcess().locate(kPhotoDatabasePath));
   return database;
 }
 

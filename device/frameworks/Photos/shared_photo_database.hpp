@@ -4,7 +4,8 @@
 
 namespace device {
 
-/// The photo library of the phone whose app this process is, opened when first asked for. Main thread only.
+/// The photo library of the phone whose app this process is. Each thread has a connection of its own, opened
+/// when first asked for.
 PhotoDatabase& sharedPhotoDatabase();
 
 }  // namespace device

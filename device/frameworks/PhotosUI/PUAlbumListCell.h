@@ -54,6 +54,3 @@
 - (NSString*)subtitleForCollection:(PHCollection*)collection;
 - (void)_fill:(PUAlbumListCellContentView*)tile with:(PHCollection*)collection;
 @end
-
-/// The colour that stands for a photo's pixels.
-UIColor* PUColorOfAsset(PHAsset* asset);

@@ -1,7 +1,5 @@
 #import "device/frameworks/PhotosUI/PUAlbumListCell.h"
 
-#include <cstdint>
-
 namespace {
 
 constexpr CGFloat kTileWidth = 163;
@@ -9,14 +7,7 @@ constexpr CGFloat kTextHeight = 20;
 constexpr CGFloat kDeleteButtonSize = 29;
 constexpr CGFloat kStackOffset = 4;
 
-CGFloat channel(std::uint32_t color, int shift) { return ((color >> shift) & 0xff) / 255.0; }
-
 }  // namespace
-
-UIColor* PUColorOfAsset(PHAsset* asset) {
-  const std::uint32_t color = [asset _color];
-  return [UIColor colorWithRed:channel(color, 16) green:channel(color, 8) blue:channel(color, 0) alpha:1];
-}
 
 @implementation PUStackView
 
@@ -172,7 +163,7 @@ UIColor* PUColorOfAsset(PHAsset* asset) {
   if (![collection isKindOfClass:[PHAssetCollection class]]) return colors;
   PHFetchResult* keyAssets = [PHAsset fetchKeyAssetsInAssetCollection:(PHAssetCollection*)collection
                                                               options:nil];
-  for (PHAsset* asset in keyAssets) [colors addObject:PUColorOfAsset(asset)];
+  for (PHAsset* asset in keyAssets) [colors addObject:[asset _pixelColor]];
   return colors;
 }
 
@@ -180,7 +171,8 @@ UIColor* PUColorOfAsset(PHAsset* asset) {
   [tile setTitle:[collection localizedTitle]];
   [[tile stackView] _setColors:[self _colorsOfCollection:collection]];
   // Only what the owner made can be deleted.
-  [tile setShowsDeleteButtonWhileEditing:[collection _identifier] != 0];
+  [tile
+      setShowsDeleteButtonWhileEditing:[collection canPerformEditOperation:PHCollectionEditOperationDelete]];
 }
 
 @end

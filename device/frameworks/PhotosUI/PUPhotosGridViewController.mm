@@ -1,28 +1,18 @@
 #import "device/frameworks/PhotosUI/PUPhotosGridViewController.h"
 
-#import "device/frameworks/PhotosUI/PUAlbumListCell.h"
-
 namespace {
 
 NSString* const kCell = @"PUPhotosGridCell";
 constexpr CGFloat kPhotoSize = 92;
 constexpr CGFloat kSpacing = 1;
 
-NSString* textOf(PHAsset* asset) {
-  NSDateFormatter* formatter = [[[NSDateFormatter alloc] init] autorelease];
-  [formatter setTimeZone:[NSTimeZone timeZoneForSecondsFromGMT:0]];
-  [formatter setDateFormat:@"yyyy-MM-dd HH:mm:ss"];
-  NSString* kind = [asset mediaType] == PHAssetMediaTypeVideo ? @"Video" : @"Photo";
-  return [NSString stringWithFormat:@"%@, %@", kind, [formatter stringFromDate:[asset creationDate]]];
-}
-
 }  // namespace
 
 @implementation PUPhotosGridCell
 
 - (void)_setAsset:(PHAsset*)asset {
-  [[self contentView] setBackgroundColor:PUColorOfAsset(asset)];
-  [[self contentView] setAccessibilityLabel:textOf(asset)];
+  [[self contentView] setBackgroundColor:[asset _pixelColor]];
+  [[self contentView] setAccessibilityLabel:[asset _words]];
 }
 
 @end

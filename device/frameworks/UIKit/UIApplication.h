@@ -10,6 +10,8 @@
 }
 @property(nonatomic, retain) UIViewController* rootViewController;
 - (void)makeKeyAndVisible;
+/// Fills the screen with the controller at once.
+- (id)_initShowing:(UIViewController*)controller;
 @end
 
 /// One a process. It takes the part of its own delegate, as the system's apps do.

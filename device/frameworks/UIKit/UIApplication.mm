@@ -24,6 +24,14 @@ UIApplication* theApplication = nil;
   return self;
 }
 
+- (id)_initShowing:(UIViewController*)controller {
+  self = [self initWithFrame:[[UIScreen mainScreen] bounds]];
+  if (!self) return nil;
+  [self setRootViewController:controller];
+  [self makeKeyAndVisible];
+  return self;
+}
+
 - (void)dealloc {
   [[UIApplication sharedApplication] _window:self isVisible:NO];
   [_rootViewController release];

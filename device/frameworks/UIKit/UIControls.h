@@ -15,6 +15,7 @@ enum UIControlEvents : NSUInteger {
   NSInteger _numberOfLines;
   CGFloat _minimumScaleFactor;
   BOOL _adjustsFontSizeToFitWidth;
+  BOOL _adjustsLetterSpacingToFitWidth;
 }
 @property(nonatomic, copy) NSString* text;
 @property(nonatomic, retain) UIFont* font;
@@ -23,6 +24,7 @@ enum UIControlEvents : NSUInteger {
 @property(nonatomic) NSInteger numberOfLines;
 @property(nonatomic) CGFloat minimumScaleFactor;
 @property(nonatomic) BOOL adjustsFontSizeToFitWidth;
+@property(nonatomic) BOOL adjustsLetterSpacingToFitWidth;
 @end
 
 /// Its targets are not retained.

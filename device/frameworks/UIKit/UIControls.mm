@@ -9,6 +9,7 @@
 @synthesize numberOfLines = _numberOfLines;
 @synthesize minimumScaleFactor = _minimumScaleFactor;
 @synthesize adjustsFontSizeToFitWidth = _adjustsFontSizeToFitWidth;
+@synthesize adjustsLetterSpacingToFitWidth = _adjustsLetterSpacingToFitWidth;
 
 - (id)initWithFrame:(CGRect)frame {
   self = [super initWithFrame:frame];

@@ -18,9 +18,18 @@ enum UIUserInterfaceIdiom : NSInteger { UIUserInterfaceIdiomPhone = 0, UIUserInt
 - (NSArray*)_feltFeedback;
 @end
 
+enum UIDeviceOrientation : NSInteger {
+  UIDeviceOrientationPortrait = 1,
+  UIDeviceOrientationLandscapeLeft = 3,
+  UIDeviceOrientationLandscapeRight = 4,
+};
+
 @interface UIDevice : NSObject {
   _UITapticEngine* _tapticEngine;
+  NSInteger _orientation;
 }
+/// How the phone is held.
+@property(nonatomic, setter=_setOrientation:) NSInteger orientation;
 + (UIDevice*)currentDevice;
 - (NSInteger)userInterfaceIdiom;
 - (_UITapticEngine*)_tapticEngine;

@@ -38,6 +38,8 @@
 
 @implementation UIDevice
 
+@synthesize orientation = _orientation;
+
 + (UIDevice*)currentDevice {
   static UIDevice* const device = [[self alloc] init];
   return device;
@@ -45,7 +47,9 @@
 
 - (id)init {
   self = [super init];
-  if (self) _tapticEngine = [[_UITapticEngine alloc] init];
+  if (!self) return nil;
+  _tapticEngine = [[_UITapticEngine alloc] init];
+  _orientation = UIDeviceOrientationPortrait;
   return self;
 }
 

@@ -1,15 +1,26 @@
 #pragma once
 
+#import "device/frameworks/UIKit/UIColor.h"
 #import "device/frameworks/UIKit/UIView.h"
 
 @interface UIImage : NSObject {
   NSString* _path;
   NSData* _data;
+  UIColor* _color;
+  NSString* _name;
+  CGSize _size;
 }
 /// Nil when there is no file, or no PNG or JPEG in it.
 - (id)initWithContentsOfFile:(NSString*)path;
 @property(nonatomic, readonly) NSString* _path;
 @property(nonatomic, readonly) NSData* _data;
+/// In points, which are the pixels of a file. (0, 0) for a JPEG, which nobody measures here.
+@property(nonatomic, readonly) CGSize size;
+/// What a person calls it: its file's name without the ending, or what it was made with.
+@property(nonatomic, readonly) NSString* _name;
+/// Nil for a file's image.
+@property(nonatomic, readonly) UIColor* _color;
++ (UIImage*)_imageOfColor:(UIColor*)color size:(CGSize)size name:(NSString*)name;
 @end
 
 /// Takes no touches unless told to.

@@ -4,9 +4,27 @@
 
 namespace {
 
-bool isPicture(NSData* data) {
-  const std::string_view bytes(static_cast<const char*>([data bytes]), [data length]);
-  return bytes.starts_with("\x89PNG\r\n\x1a\n") || bytes.starts_with("\xff\xd8\xff");
+/// Where a PNG's width and then its height are, four bytes each.
+constexpr NSUInteger kWidthInPng = 16;
+constexpr NSUInteger kHeightInPng = 20;
+constexpr NSUInteger kLeastPngBytes = 24;
+
+std::string_view bytesOf(NSData* data) { return {static_cast<const char*>([data bytes]), [data length]}; }
+
+bool isPng(NSData* data) {
+  return bytesOf(data).starts_with("\x89PNG\r\n\x1a\n") && [data length] >= kLeastPngBytes;
+}
+
+bool isPicture(NSData* data) { return isPng(data) || bytesOf(data).starts_with("\xff\xd8\xff"); }
+
+CGFloat numberIn(NSData* data, NSUInteger place) {
+  unsigned int number = 0;
+  [data getBytes:&number range:NSMakeRange(place, sizeof number)];
+  return NSSwapBigIntToHost(number);
+}
+
+CGSize sizeOf(NSData* data) {
+  return isPng(data) ? CGSizeMake(numberIn(data, kWidthInPng), numberIn(data, kHeightInPng)) : CGSizeZero;
 }
 
 }  // namespace
@@ -15,20 +33,35 @@ bool isPicture(NSData* data) {
 
 @synthesize _path = _path;
 @synthesize _data = _data;
+@synthesize size = _size;
+@synthesize _name = _name;
+@synthesize _color = _color;
 
 - (id)initWithContentsOfFile:(NSString*)path {
   self = [super init];
   if (!self) return nil;
   _path = [path copy];
   _data = [[NSData dataWithContentsOfFile:path] retain];
+  _name = [[[path lastPathComponent] stringByDeletingPathExtension] copy];
+  _size = sizeOf(_data);
   if (isPicture(_data)) return self;
   [self release];
   return nil;
 }
 
++ (UIImage*)_imageOfColor:(UIColor*)color size:(CGSize)size name:(NSString*)name {
+  UIImage* image = [[[self alloc] init] autorelease];
+  image->_color = [color retain];
+  image->_size = size;
+  image->_name = [name copy];
+  return image;
+}
+
 - (void)dealloc {
   [_path release];
   [_data release];
+  [_name release];
+  [_color release];
   [super dealloc];
 }
 
@@ -55,10 +88,10 @@ bool isPicture(NSData* data) {
   [super dealloc];
 }
 
-/// A person who cannot read a picture still knows it: by the name of its file, as the screen reader does.
+/// A person who cannot see a picture still knows it by its name.
 - (NSString*)accessibilityLabel {
   if (_accessibilityLabel) return _accessibilityLabel;
-  return [[[_image _path] lastPathComponent] stringByDeletingPathExtension];
+  return [_image _name];
 }
 
 @end

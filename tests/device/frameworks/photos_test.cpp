@@ -229,6 +229,24 @@ TEST_F(Photos, AlbumsAreFetchedByTypeAndSubtype) {
             (Titles{"Kept", "Favorites"}));
 }
 
+TEST_F(Photos, OnlyWhatThePhoneItselfMadeIsEdited) {
+  library_.addAlbum("Own");
+  library_.addSyncedAlbum("Synced");
+  library_.addFolder("Folder");
+  EXPECT_EQ(titlesOf(albums(kAlbum)), (Titles{"Own", "Synced"}));
+  EXPECT_EQ(titlesOf(albums(kAlbum, 2)), Titles{"Own"});
+  EXPECT_EQ(titlesOf(albums(kAlbum, 5)), Titles{"Synced"});
+  EXPECT_EQ((ask<"assetCollectionSubtype", NSInteger>(album("Synced"))), 5);
+  const auto isEdited = [](Object collection) {
+    return ask<"canPerformEditOperation:", bool>(collection, NSInteger{3});
+  };
+  const Object folder = ask<"lastObject", Object>(topLevel());
+  const Object transient = ask<"transientCollectionListWithCollections:title:", Object>(
+      hostType<"PHCollectionList">(), NSArray::from({}), NSString::from("Pair"));
+  EXPECT_TRUE(isEdited(album("Own")) && isEdited(folder));
+  EXPECT_FALSE(isEdited(album("Synced")) || isEdited(smartAlbum(203)) || isEdited(transient));
+}
+
 TEST_F(Photos, SmartAlbumsHoldWhatTheirKindAsksFor) {
   const auto photo = library_.addAsset({.creationDate = 4});
   const auto video = library_.addAsset({.mediaType = MediaType::video, .creationDate = 3});

@@ -10,15 +10,6 @@
 
 namespace velvault12 {
 
-extern "C" {
-ObjcBool GSDebugAllocationActive(ObjcBool active);
-int GSDebugAllocationCount(Class type);
-}
-
-struct CGAffineTransform {
-  double a, b, c, d, tx, ty;
-};
-
 bool operator==(CGPoint a, CGPoint b) { return a.x == b.x && a.y == b.y; }
 bool operator==(CGRect a, CGRect b) {
   return a.origin == b.origin && a.size.width == b.size.width && a.size.height == b.size.height;

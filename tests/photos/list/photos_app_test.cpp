@@ -11,12 +11,6 @@
 #include "host/photos_ui.hpp"
 #include "tests/phone_test.hpp"
 
-// Foundation's own count of living objects.
-extern "C" {
-unsigned char GSDebugAllocationActive(unsigned char active);
-int GSDebugAllocationCount(objc_class* type);
-}
-
 namespace velvault12 {
 namespace {
 

@@ -1,0 +1,27 @@
+#import "device/frameworks/PhotosUI/PUAssetHidingHelper.h"
+
+@implementation PUAssetHidingHelper
+
+@synthesize assets = _assets;
+
+- (void)dealloc {
+  [_assets release];
+  [super dealloc];
+}
+
+- (void)applyHiddenState:(BOOL)hidden completionHandler:(void (^)(void))handler {
+  // Blocks of this runtime keep no object.
+  NSArray* assets = [_assets retain];
+  [[PHPhotoLibrary sharedPhotoLibrary]
+      performChanges:^{
+        for (PHAsset* asset in assets) {
+          [[PHAssetChangeRequest changeRequestForAsset:asset] setHidden:hidden];
+        }
+      }
+      completionHandler:^(BOOL, NSError*) {
+        [assets release];
+        if (handler) handler();
+      }];
+}
+
+@end

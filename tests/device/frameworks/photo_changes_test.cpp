@@ -1,0 +1,235 @@
+// What an app asks the photo library to change, and the pictures that it asks for.
+
+#include <gtest/gtest.h>
+
+#include <future>
+#include <thread>
+
+#include "host/photos.hpp"
+#include "host/photos_ui.hpp"
+#include "tests/device/frameworks/plain_phone.hpp"
+
+namespace velvault12 {
+namespace {
+
+using Work = std::function<void()>;
+using Completion = std::function<void(bool, Object)>;
+using Request = PHAssetCollectionChangeRequest;
+
+class PhotoChanges : public PlainPhone {
+ protected:
+  PhotoChanges() { device::become({phone_.folder(), std::string(device::kGallery)}); }
+
+  static void perform(Work requests, Completion completion = {}) {
+    using Handler = Block<void(bool, Object)>;
+    auto handler = block<void(bool, Object)>(completion);
+    PHPhotoLibrary::sharedPhotoLibrary().performChanges(block<void()>(requests),
+                                                        completion ? Handler(handler) : Handler());
+  }
+  // Waits for the end of the change: "" for success. `then` runs in the completion handler.
+  static std::string change(
+      Work requests, Work then = [] {}) {
+    std::optional<std::string> end;
+    perform(requests, [&](bool succeeded, Object error) {
+      then();
+      const std::string text = succeeded ? "" : "failed: " + ask<"domain", NSString>(error).utf8();
+      runOnMainQueue([&end, text] { end = text; });
+    });
+    EXPECT_TRUE(soon([&] { return end.has_value(); }));
+    return end.value_or("never ended");
+  }
+
+  static Request create(std::string_view title) { return Request::create(NSString::from(title)); }
+  static Request changeOf(PHAssetCollection album) { return Request::change(album, {}); }
+  static Object changeOfPhoto() {
+    return ask<"changeRequestForAsset:", Object>(hostType<"PHAssetChangeRequest">(), photos().firstObject());
+  }
+  static PHAssetCollection album(std::string_view identifier) {
+    return PHAssetCollection::fetchWithLocalIdentifiers(NSArray::from({std::string(identifier)}))
+        .firstObject();
+  }
+  static PHAssetCollection album(std::int64_t number) { return album(std::to_string(number) + "/L0/040"); }
+  // All that are not hidden.
+  static PHFetchResult<PHAsset> photos() {
+    return PHAsset::fetchWithMediaType(PHAsset::MediaType::image, {});
+  }
+  Titles titles() const {
+    Titles all;
+    for (const auto& row : library_.allAlbums()) all.push_back(row.title);
+    return all;
+  }
+  bool isHidden() const { return library_.allAssets().front().isHidden; }
+
+  device::PhotoDatabase library_ = phone_.photoLibrary();
+};
+
+TEST_F(PhotoChanges, AreMadeAfterTheirBlockOnTheLibrarysThread) {
+  const auto pets = library_.addAlbum("Pets");
+  const auto photo = library_.addAsset({});
+  library_.addToAlbum(photo, pets);
+  std::string identifier, made;
+  std::thread::id thread;
+  const auto requests = [&] {
+    thread = std::this_thread::get_id();
+    const Request request = create("Trips");
+    identifier = request.createdIdentifier().utf8();
+    ask<"addAssets:">(request, photos());
+    ask<"removeAssets:">(changeOf(album(pets)), photos());
+    EXPECT_EQ(titles(), Titles{"Pets"});
+  };
+  const auto then = [&] {
+    EXPECT_EQ(std::this_thread::get_id(), thread);
+    made = album(identifier).localizedTitle().utf8();
+  };
+  EXPECT_EQ(change(requests, then), "");
+  EXPECT_NE(thread, std::this_thread::get_id());
+  EXPECT_EQ(made, "Trips");
+  const auto holding = library_.albumsContaining(photo);
+  ASSERT_EQ(holding.size(), 1u);
+  EXPECT_EQ(holding.front().title, "Trips");
+}
+
+TEST_F(PhotoChanges, ThatFailAreTakenBackAsAWhole) {
+  const auto pets = library_.addAlbum("Pets"), gone = library_.addAlbum("Gone");
+  library_.addAsset({});
+  const auto fetched = album(gone);
+  const auto others = [&] {
+    create("New");
+    ask<"addAssets:">(changeOf(album(pets)), photos());
+    ask<"setHidden:">(changeOfPhoto(), true);
+  };
+  const auto goesMeanwhile = [&] {
+    others();
+    ask<"removeAssets:">(changeOf(fetched), photos());
+    library_.removeCollection(gone);
+  };
+  const auto isGone = [&] {
+    others();
+    ask<"addAssets:">(changeOf(fetched), photos());
+  };
+  for (const Work& requests : {Work(goesMeanwhile), Work(isGone)}) {
+    EXPECT_EQ(change(requests), "failed: PHPhotosErrorDomain");
+    EXPECT_EQ(titles(), Titles{"Pets"});
+    EXPECT_TRUE(library_.assetsInAlbum(pets).empty());
+    EXPECT_FALSE(isHidden());
+  }
+  EXPECT_EQ(change(others), "");
+  EXPECT_EQ(titles(), (Titles{"Pets", "New"}));
+  EXPECT_EQ(library_.assetsInAlbum(pets).size(), 1u);
+  EXPECT_TRUE(isHidden());
+}
+
+TEST_F(PhotoChanges, ComeInTheOrderOfTheirCalls) {
+  Titles order;
+  std::promise<void> allAreAsked;
+  bool isOver = false;
+  const auto note = [&order](const std::string& text) { return [&order, text] { order.push_back(text); }; };
+  perform([&] { allAreAsked.get_future().wait(); });
+  perform(note("first"), [&](bool, Object) {
+    order.push_back("first is over");
+    perform(note("third"), [&](bool, Object) { runOnMainQueue([&isOver] { isOver = true; }); });
+  });
+  perform(note("second"));
+  allAreAsked.set_value();
+  EXPECT_TRUE(soon([&] { return isOver; }));
+  EXPECT_EQ(order, (Titles{"first", "first is over", "second", "third"}));
+}
+
+TEST_F(PhotoChanges, RaiseWhereAPhoneRaises) {
+  const auto pets = library_.addAlbum("Pets"), synced = library_.addSyncedAlbum("Synced");
+  library_.addAsset({});
+  Ref<Request> kept;
+  const auto requestsRaise = [&] {
+    return raises([] { create("New"); }) && raises([&] { changeOf(album(pets)); }) &&
+           raises([] { changeOfPhoto(); }) &&
+           (!kept || raises([&] { ask<"addAssets:">(kept.get(), photos()); }));
+  };
+  const auto requests = [&] {
+    EXPECT_TRUE(raises([] { perform([] {}); }));
+    EXPECT_TRUE(raises([&] { changeOf(album(synced)); }));
+    EXPECT_TRUE(raises([] { changeOf(album("smart-203/L0/040")); }));
+    kept = Ref<Request>(changeOf(album(pets)));
+  };
+  EXPECT_TRUE(requestsRaise());
+  EXPECT_EQ(change(requests, [&] { EXPECT_TRUE(requestsRaise()); }), "");
+  EXPECT_EQ(titles(), (Titles{"Pets", "Synced"}));
+}
+
+TEST_F(PhotoChanges, HideAssetsAndShowThemAgain) {
+  library_.addAsset({});
+  const auto apply = [](Object assets, bool hidden) {
+    bool isOver = false;
+    auto end = block<void()>([&] { runOnMainQueue([&isOver] { isOver = true; }); });
+    const auto helper = makeObject<PUAssetHidingHelper>();
+    ask<"setAssets:">(helper.get(), assets);
+    ask<"applyHiddenState:completionHandler:">(helper.get(), hidden, Block<void()>(end));
+    EXPECT_TRUE(soon([&] { return isOver; }));
+  };
+  const Object all = ask<"fetchedObjects", Object>(photos());
+  apply(all, true);
+  EXPECT_TRUE(isHidden());
+  apply(Object(), false);
+  EXPECT_TRUE(isHidden());
+  apply(all, false);
+  EXPECT_FALSE(isHidden());
+}
+
+TEST_F(PhotoChanges, PicturesHaveTheSizeAskedFor) {
+  constexpr NSInteger kFit = 0, kFill = 1, kOriginal = 0, kFast = 1, kExact = 2;
+  library_.addAsset({.creationDate = 1'588'334'400, .color = 0xff0000});
+  Ref<Object> image;
+  int answers = 0;
+  auto handler = block<void(Object, Object)>([&](Object found, Object) {
+    image = Ref<Object>(found);
+    ++answers;
+  });
+  const auto request = [&](Object asset, CGSize target, NSInteger contentMode, Object options) {
+    return ask<"requestImageForAsset:targetSize:contentMode:options:resultHandler:", std::int32_t>(
+        ask<"defaultManager", Object>(hostType<"PHImageManager">()), asset, target, contentMode, options,
+        Block<void(Object, Object)>(handler));
+  };
+  const auto size = [&] {
+    const auto points = ask<"size", CGSize>(image.get());
+    return std::pair(points.width, points.height);
+  };
+  const auto options = makeObject<PHImageRequestOptions>();
+  options->setSynchronous(true);
+  const auto answered = [&](CGSize target, NSInteger contentMode, NSInteger resizeMode) {
+    ask<"setResizeMode:">(options.get(), resizeMode);
+    const auto number = request(photos().firstObject(), target, contentMode, options.get());
+    EXPECT_EQ(answers, number) << "each once, before the call returns";
+    return size();
+  };
+  EXPECT_EQ(answered({100, 100}, kFit, kExact), std::pair(75., 100.));
+  EXPECT_EQ(answered({75, 75}, kFill, kExact), std::pair(75., 100.));
+  EXPECT_EQ(answered({100, 100}, kFit, kFast), std::pair(80., 104.));
+  EXPECT_EQ(answered({72, 72}, kFill, kFast), std::pair(72., 96.)) << "a multiple of 8 as it is";
+  EXPECT_EQ(answered({100, 100}, kFill, kOriginal), std::pair(3024., 4032.));
+  EXPECT_EQ((ask<"_name", NSString>(image.get()).utf8()), "Photo, 2020-05-01 12:00:00");
+  const auto red = ask<"colorWithRed:green:blue:alpha:", Object>(hostType<"UIColor">(), 1.0, 0.0, 0.0, 1.0);
+  EXPECT_TRUE((ask<"isEqual:", bool>(ask<"_color", Object>(image.get()), red)));
+
+  EXPECT_TRUE(raises([&] { request(Object(), {100, 100}, kFit, options.get()); }));
+  answers = 0;
+  request(photos().firstObject(), {100, 100}, kFit, Object());
+  EXPECT_EQ(answers, 0) << "later, unless it is told to be synchronous";
+  EXPECT_TRUE(soon([&] { return answers == 1; }));
+  EXPECT_EQ(size(), std::pair(80., 104.)) << "fast unless told otherwise";
+}
+
+TEST_F(PhotoChanges, APictureFileTellsItsSizeAndName) {
+  const std::string png("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\1\2\0\0\0\x03", 24);
+  const auto open = [&](std::string_view path, std::string_view bytes) {
+    std::ofstream(phone_.onDisk(path), std::ios::binary) << bytes;
+    return UIImage::contentsOfFile(path);
+  };
+  const auto lock = open("/var/mobile/Media/lock.png", png);
+  EXPECT_EQ((ask<"size", CGSize>(lock.get()).width), 258);
+  EXPECT_EQ((ask<"size", CGSize>(lock.get()).height), 3);
+  EXPECT_EQ((ask<"_name", NSString>(lock.get()).utf8()), "lock");
+  EXPECT_EQ((ask<"size", CGSize>(open("/var/mobile/Media/a.jpg", "\xff\xd8\xff").get()).width), 0);
+  EXPECT_FALSE(open("/var/mobile/Media/cut.png", png.substr(0, 23)));
+}
+
+}  // namespace
+}  // namespace velvault12
