@@ -1,5 +1,8 @@
 #include "camera/capture_album.hpp"
 
+#include <utility>
+#include <vector>
+
 #include "host/process_wide.hpp"
 #include "startup/settings.hpp"
 #include "startup/shared_files.hpp"
@@ -10,6 +13,13 @@ void CaptureAlbum::readAtStart() {
   title_ = captureAlbumAtStart(readFirstString(kCaptureAlbumFile), settings().rememberDefault);
 }
 
+void CaptureAlbum::choose(std::string title) {
+  title_ = std::move(title);
+  saveArray(std::vector(1, title_), kCaptureAlbumFileToSave);
+}
+
 CaptureAlbum& captureAlbum() { return processWide<CaptureAlbum>(); }
+
+bool isPickerOn() { return settings().enabled && settings().enableCameraPicker; }
 
 }  // namespace velvault12

@@ -1,5 +1,8 @@
 #include "startup/hook_table.hpp"
 
+#include "camera/album_chooser.hpp"
+#include "camera/capture_move.hpp"
+#include "camera/thumbnail.hpp"
 #include "photos/list/album_deletion.hpp"
 #include "photos/list/album_selection.hpp"
 #include "photos/list/appearing.hpp"
@@ -11,6 +14,20 @@
 namespace velvault12 {
 
 namespace {
+
+constexpr HookRow kCameraHooks[] = {
+    replace<captureFinished>("CAMCaptureEngine", "captureOutput:didFinishCaptureForResolvedSettings:error:"),
+    add<movePhoto>("CAMCaptureEngine", "movePhoto", "v@:"),
+    replace<metalViewLayout>("CAMMetalView", "layoutSubviews"),
+    add<chooseAlbum>("CAMMetalView", "chooseAlbum", "v@:"),
+    add<createNewAlbum>("CAMMetalView", "createNewAlbum", "v@:"),
+    add<adjustRotation>("CAMMetalView", "adjustRotationToSize:", "v@:{CGSize=dd}"),
+    replace<bottomBarLayout>("CAMBottomBar", "layoutSubviews"),
+    add<chooseAlbum>("CAMBottomBar", "chooseAlbum", "v@:"),
+    add<createNewAlbum>("CAMBottomBar", "createNewAlbum", "v@:"),
+    add<adjustRotation>("CAMBottomBar", "adjustRotationToSize:", "v@:{CGSize=dd}"),
+    replace<newestThumbnail>("CAMImageWell", "thumbnailImage"),
+};
 
 constexpr HookRow kPhotosHooks[] = {
     replace<appEnteredBackground>("PhotosApplication", "applicationDidEnterBackground:"),
@@ -39,6 +56,7 @@ constexpr HookRow kSpringBoardHooks[] = {
     add<serveAuthenticate>("SpringBoard", "authenticate:withUserInfo:", "v@:@@"),
 };
 
+static_assert(replacementsAreDistinct(kCameraHooks));
 static_assert(replacementsAreDistinct(kPhotosHooks));
 static_assert(replacementsAreDistinct(kSpringBoardHooks));
 
@@ -46,11 +64,12 @@ static_assert(replacementsAreDistinct(kSpringBoardHooks));
 
 std::span<const HookRow> hooksOf(HookGroup group) {
   switch (group) {
+    case HookGroup::camera:
+      return kCameraHooks;
     case HookGroup::photos:
       return kPhotosHooks;
     case HookGroup::springBoard:
       return kSpringBoardHooks;
-    case HookGroup::camera:
     case HookGroup::none:
       return {};
   }

@@ -20,10 +20,15 @@ inline constexpr std::string_view kLockedAlbumsPathsFile =
     "/var/mobile/Library/velvault/lockedAlbumsPaths.plist";
 /// The title of the album that captures go into: an array whose first element it is.
 inline constexpr std::string_view kCaptureAlbumFile = "/var/mobile/Library/velvault/album.tct";
+/// The same file, as it is named to SpringBoard.
+inline constexpr std::string_view kCaptureAlbumFileToSave = "/private/var/mobile/Library/velvault/album.tct";
 /// The password of locked albums: plain UTF-8 text, written by the settings pane.
 inline constexpr std::string_view kPasswordFile = "/var/mobile/Library/velvault/settings.tct";
 /// SpringBoard's latest answer: a dictionary.
 inline constexpr std::string_view kAnswerFile = "/var/mobile/Library/velvault/authenticate.plist";
+
+/// The button in the Camera.
+inline constexpr std::string_view kAlbumImage = "/Library/Application Support/velvault12/album.png";
 
 /// Posted by the settings pane when the preferences have changed.
 inline constexpr std::string_view kReloadNotification = "com.qdx.velvault12prefs/reloadPrefs";

@@ -12,5 +12,15 @@ TEST(CaptureAlbum, StartsWithTheRememberedOneOnlyWhenWanted) {
   EXPECT_EQ(captureAlbumAtStart("", true), "");
 }
 
+TEST(CaptureAlbum, ATitleHasMoreThanWhiteSpaceInIt) {
+  for (const std::string_view blank : {"", " ", " \t\r\n", "\u3000", "\u00a0 \u2003\u205f"}) {
+    EXPECT_FALSE(isAlbumTitle(blank)) << '"' << blank << '"';
+  }
+  for (const std::string_view title :
+       {"a", "  a  ", "\u3000\u5bb6", ".", "\u200b", "\u00a1", "\xc2", "\x80"}) {
+    EXPECT_TRUE(isAlbumTitle(title)) << '"' << title << '"';
+  }
+}
+
 }  // namespace
 }  // namespace velvault12

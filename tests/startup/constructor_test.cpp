@@ -19,7 +19,15 @@ struct Change {
   Names added;
 };
 const Names kUnlocking{"handleLongPress:", "unlockAlbum:withAlbum:", "requestPassword:", "unlockAuthorised:"};
+const Names kChoosing{"chooseAlbum", "createNewAlbum", "adjustRotationToSize:"};
 const Change kChanges[] = {
+    {device::kCamera,
+     "CAMCaptureEngine",
+     {"captureOutput:didFinishCaptureForResolvedSettings:error:"},
+     {"movePhoto"}},
+    {device::kCamera, "CAMMetalView", {"layoutSubviews"}, kChoosing},
+    {device::kCamera, "CAMBottomBar", {"layoutSubviews"}, kChoosing},
+    {device::kCamera, "CAMImageWell", {"thumbnailImage"}, {}},
     {device::kSpringBoard,
      "SpringBoard",
      {"applicationDidFinishLaunching:"},
@@ -38,7 +46,7 @@ const Change kChanges[] = {
 
 using Host = std::tuple<std::string_view, bool>;
 class Constructor : public PhoneTest, public ::testing::WithParamInterface<Host> {};
-const std::string_view kHosts[] = {device::kSpringBoard,    device::kPhotos,  "com.apple.camera",
+const std::string_view kHosts[] = {device::kSpringBoard,    device::kPhotos,  device::kCamera,
                                    "com.apple.store.Jolly", device::kGallery, ""};
 INSTANTIATE_TEST_SUITE_P(On, Constructor, ::testing::Combine(::testing::ValuesIn(kHosts), ::testing::Bool()));
 
