@@ -1,0 +1,129 @@
+#include "device/demo/camera_chapters.hpp"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "device/system/process.hpp"
+
+namespace device {
+namespace {
+
+constexpr std::string_view kCaptureAlbum = "/var/mobile/Library/velvault/album.tct";
+/// What the phone calls the button with that image.
+constexpr std::string_view kAlbumButton = "album";
+constexpr std::string_view kParty = "Party";
+
+/// What the photo library holds under that title; nothing as long as there is no such album.
+std::vector<AssetRow> inAlbum(const Phone& phone, std::string_view title) {
+  const PhotoDatabase library = phone.device().photoLibrary();
+  const std::vector<CollectionRow> albums = library.allAlbums();
+  const auto album = std::ranges::find(albums, title, &CollectionRow::title);
+  return album == albums.end() ? std::vector<AssetRow>() : library.assetsInAlbum(album->identifier);
+}
+
+std::vector<AssetRow> inCameraRoll(const Phone& phone) {
+  std::vector<AssetRow> assets = phone.device().photoLibrary().allAssets();
+  std::erase_if(assets, [](const AssetRow& asset) { return asset.isHidden; });
+  return assets;
+}
+
+bool isVideo(const AssetRow& asset) { return asset.mediaType == MediaType::video; }
+
+std::string captionIs(const Phone& phone, std::string_view title) {
+  phone.in(kCamera).waitToSee(title);
+  return "below the album button it reads \"" + std::string(title) + "\"";
+}
+
+void waitForPhotosInParty(const Phone& phone, std::size_t inParty, std::size_t inRoll) {
+  phone.waitUntil(
+      std::to_string(inParty) + " photos in the album, " + std::to_string(inRoll) + " outside",
+      [&] { return inAlbum(phone, kParty).size() == inParty && inCameraRoll(phone).size() == inRoll; });
+}
+
+void chooseAndCapture(Story& story, Phone& phone) {
+  const std::size_t before = inCameraRoll(phone).size();
+  story.chapter("Captures that go straight into an album");
+  story.step("You open the Camera.", [&] {
+    phone.open(kCamera).waitToSee(kAlbumButton);
+    return captionIs(phone, "Camera Roll") + ":\n" + phone.in(kCamera).screen();
+  });
+  const User& camera = phone.in(kCamera);
+  story.step("You tap the album button.", [&] {
+    camera.tap(kAlbumButton);
+    const AlertText sheet = camera.alert();
+    expect(sheet.buttons.size() == 6, "three albums, and what to do without");
+    return sheet.title + " / " + sheet.message + " / " + joined(sheet.buttons);
+  });
+  story.step("You choose \"- Create new album -\" and type \"Party\".", [&] {
+    camera.tap("- Create new album -");
+    camera.alert().type(kParty).tap("Create");
+    const std::string caption = captionIs(phone, kParty);
+    const std::string saved = phone.onceHolds(kCaptureAlbum, {std::string(kParty)});
+    expect(inAlbum(phone, kParty).empty(), "no album yet");
+    return caption + "; " + saved;
+  });
+  story.step("You take a picture, and another.", [&] {
+    for (const std::size_t taken : {1, 2}) {
+      camera.tap("Take Picture");
+      waitForPhotosInParty(phone, taken, before);
+    }
+    return std::string(
+        "the album \"Party\" was made and holds both; the camera roll holds what it held before");
+  });
+  story.step("You film.", [&] {
+    camera.tap("Video");
+    camera.tap("Record Video");
+    // One more, the film, and one less.
+    waitForPhotosInParty(phone, 3, before);
+    expect(std::ranges::none_of(inAlbum(phone, kParty), isVideo), "no film in the album");
+    expect(std::ranges::count_if(inCameraRoll(phone), isVideo) == 1, "the film is in the camera roll");
+    return std::string(
+        "the film stays in the camera roll; whatever is captured, it is the newest photo there that\n"
+        "is moved, and that was one of \"Recipes\"");
+  });
+}
+
+void startAgain(Story& story, Phone& phone) {
+  story.chapter("What the Camera remembers");
+  story.step("You start the Camera again.", [&] {
+    phone.open(kCamera);
+    return captionIs(phone, "Camera Roll") + ": it is not asked to remember";
+  });
+  story.step("In the settings you have it remember, and start it once more.", [&] {
+    phone.changeSettings({{"rememberDefault", true}});
+    phone.open(kCamera);
+    return captionIs(phone, kParty);
+  });
+}
+
+void captureWhileAnotherAppReads(Story& story, Phone& phone) {
+  const std::size_t before = inCameraRoll(phone).size();
+  story.chapter("While another app reads the library");
+  story.step("You have captures copied, not moved, and take one while another app looks again and again.",
+             [&] {
+               phone.changeSettings({{"rememberDefault", true}, {"pickerMovePhotos", false}});
+               const User& gallery = phone.open(kGallery);
+               phone.in(kCamera).tap("Take Picture");
+               phone.waitUntil("the other app finds the photo in the album", [&] {
+                 gallery.tap("Refresh");
+                 return gallery.sees("Party: 1 photos");
+               });
+               expect(inCameraRoll(phone).size() == before + 1, "the photo is in the camera roll as well");
+               return std::string(
+                   "it finds the photo in \"Party\" (those that were moved it does not see), and all the\n"
+                   "rest unchanged; the photo is in the camera roll as well");
+             });
+  phone.changeSettings({});
+}
+
+}  // namespace
+
+void tellCamera(Story& story, Phone& phone) {
+  chooseAndCapture(story, phone);
+  startAgain(story, phone);
+  captureWhileAnotherAppReads(story, phone);
+}
+
+}  // namespace device

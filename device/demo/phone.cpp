@@ -1,0 +1,73 @@
+#include "device/demo/phone.hpp"
+
+#include <chrono>
+
+#include "device/demo/story.hpp"
+
+namespace device {
+namespace {
+
+constexpr std::string_view kReloadNotification = "com.qdx.velvault12prefs/reloadPrefs";
+
+void fillLibrary(PhotoDatabase library) {
+  constexpr double kDay = 86'400;
+  constexpr std::uint32_t kColors[] = {0x3A86FF, 0x8338EC, 0xFF006E, 0xFB5607, 0xFFBE0B, 0x2A9D8F};
+  double date = 1'700'000'000;
+  std::size_t next = 0;
+  for (const std::string_view title : {"Holidays", "Pets", "Recipes"}) {
+    const std::int64_t album = library.addAlbum(title);
+    for (int i = 0; i < 3; ++i) {
+      const std::int64_t asset =
+          library.addAsset({.creationDate = date += kDay, .color = kColors[next++ % 6]});
+      library.addToAlbum(asset, album);
+    }
+  }
+}
+
+}  // namespace
+
+std::string joined(const std::vector<std::string>& texts) {
+  std::string all;
+  for (const std::string& text : texts) all += (all.empty() ? "" : ", ") + text;
+  return "[" + all + "]";
+}
+
+Phone::Phone(const std::filesystem::path& folder, const std::filesystem::path& library,
+             const std::filesystem::path& filter, const std::filesystem::path& images)
+    : device_(folder) {
+  device_.install(library, filter, images);
+  fillLibrary(device_.photoLibrary());
+}
+
+const User& Phone::open(std::string_view app) {
+  apps_.erase(app);
+  return apps_.emplace(app, device_.launch(app)).first->second.user();
+}
+
+void Phone::changeSettings(const std::map<std::string, Device::Preference>& preferences) const {
+  device_.writePreferences(preferences);
+  device_.post(kReloadNotification);
+  letAppsGoOn();
+}
+
+std::string Phone::onceHolds(std::string_view path, const std::vector<std::string>& strings) const {
+  const std::string name = std::filesystem::path(path).filename().native();
+  std::string told = name + " holds " + joined(strings);
+  waitUntil(told, [&] { return device_.strings(path) == strings; });
+  return told;
+}
+
+void Phone::waitUntil(std::string_view expectation, const std::function<bool()>& condition) const {
+  const auto deadline = std::chrono::steady_clock::now() + kPatience;
+  while (!condition()) {
+    expect(std::chrono::steady_clock::now() < deadline, expectation);
+    letAppsGoOn();
+  }
+}
+
+void Phone::letAppsGoOn() const {
+  // An app that answers has been through what came before.
+  for (const auto& [name, app] : apps_) app.user().screen();
+}
+
+}  // namespace device

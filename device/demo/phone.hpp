@@ -1,0 +1,47 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "device/device.hpp"
+
+namespace device {
+
+/// "[one, two]"
+std::string joined(const std::vector<std::string>& texts);
+
+/// The phone of the story, with three albums of three photos each, and who holds it.
+class Phone {
+ public:
+  /// The library, its filter and its images, as `Device::install` takes them.
+  Phone(const std::filesystem::path& folder, const std::filesystem::path& library,
+        const std::filesystem::path& filter, const std::filesystem::path& images);
+
+  const Device& device() const { return device_; }
+  /// Starts the app, anew if it runs.
+  const User& open(std::string_view app);
+  /// The user of an app that has been opened.
+  const User& in(std::string_view app) const { return apps_.at(app).user(); }
+  void crash(std::string_view app) { apps_.at(app).kill(); }
+
+  /// As the settings pane does; every app has read them when it returns.
+  void changeSettings(const std::map<std::string, Device::Preference>& preferences) const;
+  bool hasFile(std::string_view path) const { return std::filesystem::exists(device_.onDisk(path)); }
+  /// A file that holds an array of strings, as "name holds [one, two]", once it holds these: who writes it
+  /// does so in its own time.
+  std::string onceHolds(std::string_view path, const std::vector<std::string>& strings) const;
+  /// Lets the apps go on until the condition holds; throws when it does not for too long.
+  void waitUntil(std::string_view expectation, const std::function<bool()>& condition) const;
+
+ private:
+  void letAppsGoOn() const;
+
+  Device device_;
+  std::map<std::string_view, App> apps_;
+};
+
+}  // namespace device
