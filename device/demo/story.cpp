@@ -8,6 +8,7 @@ namespace device {
 namespace {
 
 void print(std::string_view before, std::string_view text) {
+  if (text.ends_with('\n')) text.remove_suffix(1);
   std::string indented;
   for (const char letter : text) {
     indented += letter;

@@ -402,19 +402,20 @@ TEST_F(CameraApp, EachChoiceIsShownAndSaved) {
     return soon([&] { return phone_.strings(kCaptureAlbum) == Titles{std::string(title)}; });
   };
   // Twelve points, a line's height, its middle 28 points below the button's.
-  const auto isPlacedFor = [](std::size_t letters) {
+  const auto isPlacedFor = [](std::string_view text) {
+    const auto letters = static_cast<double>(text.size());
     const CGRect frame = bottomBar().viewWithTag(kCaption).frame();
     const CGPoint button = bottomBar().viewWithTag(kButton).center();
     return frame.size.width == std::ceil(12 * 0.55 * letters) && frame.size.height == 15 &&
            frame.origin.x + frame.size.width / 2 == button.x &&
            frame.origin.y + frame.size.height / 2 == button.y + 28;
   };
-  EXPECT_TRUE(isPlacedFor(11));
+  EXPECT_TRUE(isPlacedFor("Camera Roll"));
   for (const std::string_view title : {"Pets", "Camera Roll"}) {
     me_.tap("album");
     me_.tap(title);
     EXPECT_TRUE(me_.sees(title));
-    EXPECT_TRUE(isPlacedFor(title.size())) << title;
+    EXPECT_TRUE(isPlacedFor(title)) << title;
     EXPECT_TRUE(soonSaved(title)) << title;
     EXPECT_EQ(asked.savedPath, "/private/var/mobile/Library/velvault/album.tct");
   }
