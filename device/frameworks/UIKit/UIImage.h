@@ -14,7 +14,7 @@
 - (id)initWithContentsOfFile:(NSString*)path;
 @property(nonatomic, readonly) NSString* _path;
 @property(nonatomic, readonly) NSData* _data;
-/// In points, which are the pixels of a file. (0, 0) for a JPEG, which nobody measures here.
+/// In points; (0, 0) for a file's image, which nobody measures here.
 @property(nonatomic, readonly) CGSize size;
 /// What a person calls it: its file's name without the ending, or what it was made with.
 @property(nonatomic, readonly) NSString* _name;

@@ -4,27 +4,9 @@
 
 namespace {
 
-/// Where a PNG's width and then its height are, four bytes each.
-constexpr NSUInteger kWidthInPng = 16;
-constexpr NSUInteger kHeightInPng = 20;
-constexpr NSUInteger kLeastPngBytes = 24;
-
-std::string_view bytesOf(NSData* data) { return {static_cast<const char*>([data bytes]), [data length]}; }
-
-bool isPng(NSData* data) {
-  return bytesOf(data).starts_with("\x89PNG\r\n\x1a\n") && [data length] >= kLeastPngBytes;
-}
-
-bool isPicture(NSData* data) { return isPng(data) || bytesOf(data).starts_with("\xff\xd8\xff"); }
-
-CGFloat numberIn(NSData* data, NSUInteger place) {
-  unsigned int number = 0;
-  [data getBytes:&number range:NSMakeRange(place, sizeof number)];
-  return NSSwapBigIntToHost(number);
-}
-
-CGSize sizeOf(NSData* data) {
-  return isPng(data) ? CGSizeMake(numberIn(data, kWidthInPng), numberIn(data, kHeightInPng)) : CGSizeZero;
+bool isPicture(NSData* data) {
+  const std::string_view bytes(static_cast<const char*>([data bytes]), [data length]);
+  return bytes.starts_with("\x89PNG\r\n\x1a\n") || bytes.starts_with("\xff\xd8\xff");
 }
 
 }  // namespace
@@ -43,7 +25,6 @@ CGSize sizeOf(NSData* data) {
   _path = [path copy];
   _data = [[NSData dataWithContentsOfFile:path] retain];
   _name = [[[path lastPathComponent] stringByDeletingPathExtension] copy];
-  _size = sizeOf(_data);
   if (isPicture(_data)) return self;
   [self release];
   return nil;

@@ -175,60 +175,33 @@ TEST_F(PhotoChanges, HideAssetsAndShowThemAgain) {
 }
 
 TEST_F(PhotoChanges, PicturesHaveTheSizeAskedFor) {
-  constexpr NSInteger kFit = 0, kFill = 1, kOriginal = 0, kFast = 1, kExact = 2;
-  library_.addAsset({.creationDate = 1'588'334'400, .color = 0xff0000});
-  Ref<Object> image;
-  int answers = 0;
-  auto handler = block<void(Object, Object)>([&](Object found, Object) {
-    image = Ref<Object>(found);
-    ++answers;
-  });
-  const auto request = [&](Object asset, CGSize target, NSInteger contentMode, Object options) {
-    return ask<"requestImageForAsset:targetSize:contentMode:options:resultHandler:", std::int32_t>(
-        ask<"defaultManager", Object>(hostType<"PHImageManager">()), asset, target, contentMode, options,
-        Block<void(Object, Object)>(handler));
-  };
-  const auto size = [&] {
-    const auto points = ask<"size", CGSize>(image.get());
-    return std::pair(points.width, points.height);
+  using Mode = PHImageManager::ContentMode;
+  using Resize = PHImageRequestOptions::ResizeMode;
+  library_.addAsset({.creationDate = 1'588'334'400});
+  std::vector<std::pair<double, double>> sizes;
+  const auto request = [&](CGSize target, Mode mode, const Ref<PHImageRequestOptions>& options) {
+    PHImageManager::defaultManager().requestImage(
+        photos().firstObject(), target, mode, options.get(),
+        block<void(UIImage, NSDictionary)>([&](UIImage image, NSDictionary) {
+          const auto size = ask<"size", CGSize>(image);
+          sizes.emplace_back(size.width, size.height);
+          EXPECT_EQ((ask<"_name", NSString>(image).utf8()), "Photo, 2020-05-01 12:00:00");
+        }));
   };
   const auto options = makeObject<PHImageRequestOptions>();
   options->setSynchronous(true);
-  const auto answered = [&](CGSize target, NSInteger contentMode, NSInteger resizeMode) {
-    ask<"setResizeMode:">(options.get(), resizeMode);
-    const auto number = request(photos().firstObject(), target, contentMode, options.get());
-    EXPECT_EQ(answers, number) << "each once, before the call returns";
-    return size();
-  };
-  EXPECT_EQ(answered({100, 100}, kFit, kExact), std::pair(75., 100.));
-  EXPECT_EQ(answered({75, 75}, kFill, kExact), std::pair(75., 100.));
-  EXPECT_EQ(answered({100, 100}, kFit, kFast), std::pair(80., 104.));
-  EXPECT_EQ(answered({72, 72}, kFill, kFast), std::pair(72., 96.)) << "a multiple of 8 as it is";
-  EXPECT_EQ(answered({100, 100}, kFill, kOriginal), std::pair(3024., 4032.));
-  EXPECT_EQ((ask<"_name", NSString>(image.get()).utf8()), "Photo, 2020-05-01 12:00:00");
-  const auto red = ask<"colorWithRed:green:blue:alpha:", Object>(hostType<"UIColor">(), 1.0, 0.0, 0.0, 1.0);
-  EXPECT_TRUE((ask<"isEqual:", bool>(ask<"_color", Object>(image.get()), red)));
+  request({100, 100}, Mode::aspectFit, options);
+  options->setResizeMode(Resize::exact);
+  request({100, 100}, Mode::aspectFit, options);
+  request({75, 75}, Mode::aspectFill, options);
+  options->setResizeMode(Resize::none);
+  request({75, 75}, Mode::aspectFill, options);
+  using Sizes = decltype(sizes);
+  EXPECT_EQ(sizes, (Sizes{{80, 104}, {75, 100}, {75, 100}, {3024, 4032}})) << "fast unless told otherwise";
 
-  EXPECT_TRUE(raises([&] { request(Object(), {100, 100}, kFit, options.get()); }));
-  answers = 0;
-  request(photos().firstObject(), {100, 100}, kFit, Object());
-  EXPECT_EQ(answers, 0) << "later, unless it is told to be synchronous";
-  EXPECT_TRUE(soon([&] { return answers == 1; }));
-  EXPECT_EQ(size(), std::pair(80., 104.)) << "fast unless told otherwise";
-}
-
-TEST_F(PhotoChanges, APictureFileTellsItsSizeAndName) {
-  const std::string png("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\1\2\0\0\0\x03", 24);
-  const auto open = [&](std::string_view path, std::string_view bytes) {
-    std::ofstream(phone_.onDisk(path), std::ios::binary) << bytes;
-    return UIImage::contentsOfFile(path);
-  };
-  const auto lock = open("/var/mobile/Media/lock.png", png);
-  EXPECT_EQ((ask<"size", CGSize>(lock.get()).width), 258);
-  EXPECT_EQ((ask<"size", CGSize>(lock.get()).height), 3);
-  EXPECT_EQ((ask<"_name", NSString>(lock.get()).utf8()), "lock");
-  EXPECT_EQ((ask<"size", CGSize>(open("/var/mobile/Media/a.jpg", "\xff\xd8\xff").get()).width), 0);
-  EXPECT_FALSE(open("/var/mobile/Media/cut.png", png.substr(0, 23)));
+  request({100, 100}, Mode::aspectFit, {});
+  EXPECT_EQ(sizes.size(), 4u) << "later, unless it is told to be synchronous";
+  EXPECT_TRUE(soon([&] { return sizes.size() == 5; }));
 }
 
 }  // namespace
