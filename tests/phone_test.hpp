@@ -112,6 +112,12 @@ class PhoneTest : public ::testing::Test {
   }
   bool hasFile(std::string_view phonePath) const { return std::filesystem::exists(phone_.onDisk(phonePath)); }
   void remove(std::string_view phonePath) const { std::filesystem::remove_all(phone_.onDisk(phonePath)); }
+  /// The titles of the user's albums, wherever they are kept.
+  Titles albums() const {
+    Titles all;
+    for (const auto& album : phone_.photoLibrary().allAlbums()) all.push_back(album.title);
+    return all;
+  }
   /// How many observers the notification has, in all processes.
   std::ptrdiff_t observers(std::string_view notification) const {
     const auto folder = phone_.folder() / "run/notifications" / device::fileNameOf(notification);

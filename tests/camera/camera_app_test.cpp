@@ -151,11 +151,6 @@ class CameraApp : public PhoneTest {
     std::erase_if(all, [](const auto& row) { return row.isHidden; });
     return numbersOf(all);
   }
-  Titles albums() const {
-    Titles all;
-    for (const auto& row : library_.allAlbums()) all.push_back(row.title);
-    return all;
-  }
 
   static void move() { engine().send<"movePhoto", void()>(); }
   /// Waits until the photo library has made the changes that it has been asked for by now, and those that
