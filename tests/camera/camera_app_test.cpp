@@ -53,6 +53,13 @@ bool sendMessage(Object, Replaced<bool(NSString, NSDictionary)> host, NSString n
   savedPath = stringValue(userInfo["path"]).value_or("");
   return host(name, userInfo);
 }
+/// How long the host was last asked to wait before a move.
+double secondsToMove = 0;
+NSTimer schedule(Object, Replaced<NSTimer(double, Object, SEL, Object, bool)> host, double seconds,
+                 Object target, SEL action, Object info, bool repeats) {
+  if (action == selector<"movePhoto">()) secondsToMove = seconds;
+  return host(seconds, target, action, info, repeats);
+}
 bool isPad = false;
 NSInteger idiom(Object, Replaced<NSInteger()> host) { return isPad ? 1 : host(); }
 
@@ -83,6 +90,8 @@ class CameraApp : public PhoneTest {
     // Replaced before the library comes, so that this is what the library calls as the host's own.
     const HookRow rows[] = {
         replace<hostCaptured>("CAMCaptureEngine", "captureOutput:didFinishCaptureForResolvedSettings:error:"),
+        replaceClassMethod<schedule>("NSTimer",
+                                     "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:"),
         replace<sendMessage>("CPDistributedMessagingCenter", "sendMessageName:userInfo:"),
         replace<idiom>("UIDevice", "userInterfaceIdiom")};
     installHooks(rows);
@@ -214,6 +223,7 @@ TEST_F(CameraApp, ACaptureReachesTheHostUnchangedAndWaitsOnWhateverThread) {
   EXPECT_EQ(NSString(captured[0]).utf8(), "output");
   EXPECT_EQ(NSString(captured[1]).utf8(), "settings");
   EXPECT_EQ(captured[2], nullptr);
+  EXPECT_EQ(secondsToMove, 1.5);
   waitForMoves();
   settleLibrary();
   EXPECT_EQ(album("Pets"), Numbers{photo});
@@ -438,6 +448,11 @@ TEST_F(CameraApp, RepeatedLayoutsMakeButtonAndCaptionOnceInEitherBar) {
   EXPECT_EQ(parentOfButton(bottomBar()), bottomBar().background());
   EXPECT_EQ(parentOfButton(metal.get()), metal.get());
   EXPECT_EQ(metal->viewWithTag(kButton).center().x, 100);
+  const Object label = metal->viewWithTag(kCaption);
+  EXPECT_TRUE((label.send<"textColor", Object()>().send<"isEqual:", bool(Object)>(UIColor::whiteColor())));
+  EXPECT_EQ((label.send<"textAlignment", NSInteger()>()), 1);
+  EXPECT_EQ((label.send<"numberOfLines", NSInteger()>()), 1);
+  EXPECT_EQ((label.send<"minimumScaleFactor", double()>()), 0.5);
 
   metal->send<"chooseAlbum", void()>();
   me_.tap("Camera Roll");

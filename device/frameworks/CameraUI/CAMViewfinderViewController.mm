@@ -7,11 +7,7 @@ namespace {
 constexpr CGFloat kBarHeight = 141;
 
 PHAsset* newestAsset() {
-  PHFetchResult* cameraRoll =
-      [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeSmartAlbum
-                                               subtype:PHAssetCollectionSubtypeSmartAlbumUserLibrary
-                                               options:nil];
-  return [[PHAsset fetchAssetsInAssetCollection:[cameraRoll firstObject] options:nil] lastObject];
+  return [[PHAsset fetchAssetsInAssetCollection:[PHAssetCollection _cameraRoll] options:nil] lastObject];
 }
 
 }  // namespace

@@ -71,6 +71,8 @@ enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
                                               withType:(NSInteger)type
                                                options:(PHFetchOptions*)options;
 
+/// The smart album of all that the library holds.
++ (PHAssetCollection*)_cameraRoll;
 + (NSString*)_localIdentifierOfAlbum:(std::int64_t)identifier;
 /// Its assets as the library holds them now, hidden ones included.
 - (std::vector<device::AssetRow>)_assetRows;

@@ -185,6 +185,12 @@ NSArray* collectionsIn(std::int64_t folder) {
   return [PHFetchResult _resultOf:found options:options];
 }
 
++ (PHAssetCollection*)_cameraRoll {
+  return [[self fetchAssetCollectionsWithType:PHAssetCollectionTypeSmartAlbum
+                                      subtype:PHAssetCollectionSubtypeSmartAlbumUserLibrary
+                                      options:nil] firstObject];
+}
+
 + (NSString*)_localIdentifierOfAlbum:(std::int64_t)identifier {
   return [NSString stringWithFormat:@"%lld/L0/040", static_cast<long long>(identifier)];
 }

@@ -72,11 +72,7 @@ constexpr CGFloat kSpacing = 1;
 }
 
 - (PHFetchResult*)_fetchAssets {
-  PHFetchResult* library =
-      [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeSmartAlbum
-                                               subtype:PHAssetCollectionSubtypeSmartAlbumUserLibrary
-                                               options:nil];
-  return [PHAsset fetchAssetsInAssetCollection:[library firstObject] options:nil];
+  return [PHAsset fetchAssetsInAssetCollection:[PHAssetCollection _cameraRoll] options:nil];
 }
 
 @end
