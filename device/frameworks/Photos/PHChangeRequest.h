@@ -23,6 +23,13 @@
 @property(nonatomic, readonly) PHObjectPlaceholder* placeholderForCreatedAssetCollection;
 - (void)addAssets:(id<NSFastEnumeration>)assets;
 - (void)removeAssets:(id<NSFastEnumeration>)assets;
+/// Their assets stay in the library. Raises when one of them is not the owner's to delete.
++ (void)deleteAssetCollections:(id<NSFastEnumeration>)collections;
+@end
+
+@interface PHCollectionListChangeRequest : PHChangeRequest
+/// What they hold goes with them. Raises as for asset collections.
++ (void)deleteCollectionLists:(id<NSFastEnumeration>)lists;
 @end
 
 @interface PHAssetChangeRequest : PHChangeRequest {
@@ -31,4 +38,5 @@
 }
 + (PHAssetChangeRequest*)changeRequestForAsset:(PHAsset*)asset;
 @property(nonatomic, getter=isHidden) BOOL hidden;
++ (void)deleteAssets:(id<NSFastEnumeration>)assets;
 @end

@@ -8,6 +8,21 @@
 
 using device::PhotoDatabase;
 
+namespace {
+
+void requestRemoval(id<NSFastEnumeration> collections) {
+  auto& requests = [PHPhotoLibrary _requests];
+  for (PHCollection* collection in collections) {
+    if (![collection canPerformEditOperation:PHCollectionEditOperationDelete]) {
+      [NSException raise:NSInvalidArgumentException format:@"Cannot delete %@", [collection localizedTitle]];
+    }
+    requests.push_back(
+        [removed = [collection _identifier]](PhotoDatabase& library) { library.removeCollection(removed); });
+  }
+}
+
+}  // namespace
+
 @implementation PHObjectPlaceholder
 @end
 
@@ -74,6 +89,18 @@ using device::PhotoDatabase;
   }
 }
 
++ (void)deleteAssetCollections:(id<NSFastEnumeration>)collections {
+  requestRemoval(collections);
+}
+
+@end
+
+@implementation PHCollectionListChangeRequest
+
++ (void)deleteCollectionLists:(id<NSFastEnumeration>)lists {
+  requestRemoval(lists);
+}
+
 @end
 
 @implementation PHAssetChangeRequest
@@ -91,6 +118,14 @@ using device::PhotoDatabase;
   _hidden = hidden;
   [PHPhotoLibrary _requests].push_back(
       [asset = _asset, hidden](PhotoDatabase& library) { library.setHidden(asset, hidden); });
+}
+
++ (void)deleteAssets:(id<NSFastEnumeration>)assets {
+  auto& requests = [PHPhotoLibrary _requests];
+  for (PHAsset* asset in assets) {
+    requests.push_back(
+        [removed = [asset _identifier]](PhotoDatabase& library) { library.removeAsset(removed); });
+  }
 }
 
 @end

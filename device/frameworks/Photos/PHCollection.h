@@ -5,7 +5,7 @@
 #import "device/frameworks/Photos/PHObject.h"
 #include "device/frameworks/Photos/photo_database.hpp"
 
-@class PHAsset;
+@class PHAsset, PHCollectionList;
 
 enum PHAssetCollectionType : NSInteger {
   PHAssetCollectionTypeAlbum = 1,
@@ -46,6 +46,8 @@ enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
 - (BOOL)canPerformEditOperation:(NSInteger)operation;
 /// The albums and folders at the top level.
 + (PHFetchResult*)fetchTopLevelUserCollectionsWithOptions:(PHFetchOptions*)options;
+/// Those in a folder.
++ (PHFetchResult*)fetchCollectionsInCollectionList:(PHCollectionList*)list options:(PHFetchOptions*)options;
 @end
 
 @interface PHAssetCollection : PHCollection {

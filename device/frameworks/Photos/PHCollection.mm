@@ -120,6 +120,10 @@ NSArray* collectionsIn(std::int64_t folder) {
   return [PHFetchResult _resultOf:collectionsIn(0) options:options];
 }
 
++ (PHFetchResult*)fetchCollectionsInCollectionList:(PHCollectionList*)list options:(PHFetchOptions*)options {
+  return [PHFetchResult _resultOf:collectionsIn([list _identifier]) options:options];
+}
+
 @end
 
 @implementation PHAssetCollection

@@ -210,6 +210,10 @@ void PhotoDatabase::setHidden(std::int64_t asset, bool hidden) {
   change(connection_.get(), "UPDATE asset SET isHidden = ? WHERE identifier = ?", hidden, asset);
 }
 
+void PhotoDatabase::removeAsset(std::int64_t asset) {
+  change(connection_.get(), "DELETE FROM asset WHERE identifier = ?", asset);
+}
+
 void PhotoDatabase::renameCollection(std::int64_t collection, std::string_view title) {
   change(connection_.get(), "UPDATE collection SET title = ? WHERE identifier = ?", title, collection);
 }

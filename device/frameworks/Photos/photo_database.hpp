@@ -63,6 +63,8 @@ class PhotoDatabase {
   void addToAlbum(std::int64_t asset, std::int64_t album);
   void removeFromAlbum(std::int64_t asset, std::int64_t album);
   void setHidden(std::int64_t asset, bool hidden);
+  /// It leaves its albums as well.
+  void removeAsset(std::int64_t asset);
   void renameCollection(std::int64_t collection, std::string_view title);
   /// A folder's contents go with it; assets stay in the library.
   void removeCollection(std::int64_t collection);

@@ -49,6 +49,7 @@ constexpr CGFloat kStackOffset = 4;
   self = [super initWithFrame:frame];
   if (!self) return nil;
   _stackView = [[PUStackView alloc] init];
+  [_stackView setBackgroundColor:[UIColor colorWithWhite:0.9 alpha:1]];
   _titleTextField = [[UITextField alloc] init];
   [_titleTextField setUserInteractionEnabled:NO];
   _subtitleLabel = [[UILabel alloc] init];
@@ -79,6 +80,7 @@ constexpr CGFloat kStackOffset = 4;
 }
 
 - (void)setSubtitle:(NSString*)subtitle {
+  if ([subtitle isEqualToString:[self subtitle]]) return;
   [_subtitleLabel setText:subtitle];
   [self setNeedsLayout];
 }

@@ -2,13 +2,13 @@
 
 #import "device/frameworks/PhotosUI/PUAlbumListCell.h"
 
-@class UITableView;
+@class PUPhotosGridViewController, UITableView;
 
 @interface PUCollectionView : UICollectionView
 @end
 
 /// The albums and folders of a collection list as tiles. "Edit" begins editing, in which each tile can be
-/// deleted, and "Done" ends it.
+/// deleted, and "Done" ends it. Or it lets the user pick the album that selected photos are added to.
 @interface PUAlbumListViewController : UIViewController <UICollectionViewDataSource,
                                                          UICollectionViewDelegate,
                                                          PUAlbumListCellContentViewDelegate> {
@@ -16,6 +16,8 @@
   NSArray* _collections;
   PUCollectionView* _mainCollectionView;
   PUAlbumListCellContentViewHelper* _helper;
+  PUPhotosGridViewController* _source;
+  UIView* _pickerBannerView;
 }
 - (id)initWithCollectionList:(PHCollectionList*)list;
 
@@ -23,7 +25,7 @@
 @property(nonatomic, readonly) PUCollectionView* _mainCollectionView;
 /// Nil: the list is never shown as a table here.
 @property(nonatomic, readonly) UITableView* _mainTableView;
-/// Nil: nobody picks photos here.
+/// "Add 2 Photos to an album", above the list; nil unless it picks.
 @property(nonatomic, readonly) UIView* _pickerBannerView;
 
 // Each of these raises for no index path.
@@ -38,7 +40,12 @@
 /// Shows what the library holds now.
 - (void)reloadContentView;
 - (void)_handleDoneButton:(id)sender;
+/// Makes it pick the album for the photos that are selected there when the user chooses. Before it is shown.
+- (void)_pickFor:(PUPhotosGridViewController*)source;
 @end
+
+/// The list of all that is at the top level.
+PHCollectionList* PUUserCollections();
 
 /// Where touching the tile of a collection leads: the album's photos, or the folder's list.
 UIViewController* PUViewControllerForCollection(PHCollection* collection);

@@ -1,12 +1,17 @@
 #import "device/frameworks/PhotosUI/PUAlbumListViewController.h"
 
-#include "device/frameworks/Photos/shared_photo_database.hpp"
+#import "device/frameworks/PhotosUI/PULibraryChange.h"
 #import "device/frameworks/PhotosUI/PUPhotosGridViewController.h"
 
 namespace {
 NSString* const kCell = @"PUAlbumListCell";
 constexpr CGFloat kSpacing = 16;
+constexpr CGFloat kBannerHeight = 44;
 }  // namespace
+
+PHCollectionList* PUUserCollections() {
+  return [[PHCollectionList fetchRootAlbumCollectionListWithOptions:nil] firstObject];
+}
 
 UIViewController* PUViewControllerForCollection(PHCollection* collection) {
   if (![collection isKindOfClass:[PHAssetCollection class]]) {
@@ -34,6 +39,7 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 @implementation PUAlbumListViewController
 
 @synthesize _mainCollectionView = _mainCollectionView;
+@synthesize _pickerBannerView = _pickerBannerView;
 
 - (id)initWithCollectionList:(PHCollectionList*)list {
   self = [super init];
@@ -51,6 +57,8 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
   [_collectionList release];
   [_collections release];
   [_helper release];
+  [_source release];
+  [_pickerBannerView release];
   [super dealloc];
 }
 
@@ -59,10 +67,6 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 }
 
 - (UITableView*)_mainTableView {
-  return nil;
-}
-
-- (UIView*)_pickerBannerView {
   return nil;
 }
 
@@ -77,6 +81,7 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
   [_mainCollectionView setDataSource:self];
   [_mainCollectionView setDelegate:self];
   [[self view] addSubview:_mainCollectionView];
+  [[self view] addSubview:_pickerBannerView];
 }
 
 - (void)viewWillAppear:(BOOL)animated {
@@ -86,7 +91,10 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 
 - (void)viewWillLayoutSubviews {
   [super viewWillLayoutSubviews];
-  [_mainCollectionView setFrame:[[self view] bounds]];
+  const CGSize size = [[self view] bounds].size;
+  const CGFloat top = _pickerBannerView ? kBannerHeight : 0;
+  [_pickerBannerView setFrame:CGRectMake(0, 0, size.width, top)];
+  [_mainCollectionView setFrame:CGRectMake(0, top, size.width, size.height - top)];
 }
 
 - (void)viewDidLayoutSubviews {
@@ -153,8 +161,42 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 }
 
 - (void)didSelectItemAtIndexPath:(NSIndexPath*)path {
-  UIViewController* next = PUViewControllerForCollection([self collectionAtIndexPath:path]);
+  PHCollection* collection = [self collectionAtIndexPath:path];
+  const bool isAlbum = [collection isKindOfClass:[PHAssetCollection class]];
+  if (_source && isAlbum) return [self _pick:static_cast<PHAssetCollection*>(collection)];
+  UIViewController* next = PUViewControllerForCollection(collection);
+  if (_source) [static_cast<PUAlbumListViewController*>(next) _pickFor:_source];
   [[self navigationController] pushViewController:next animated:YES];
+}
+
+// Picking.
+
+- (void)_pickFor:(PUPhotosGridViewController*)source {
+  _source = [source retain];
+  const CGRect frame = CGRectMake(0, 0, [[UIScreen mainScreen] bounds].size.width, kBannerHeight);
+  UILabel* label = [[[UILabel alloc]
+      initWithFrame:CGRectMake(kSpacing, 0, frame.size.width - 2 * kSpacing, kBannerHeight)] autorelease];
+  [label setText:[NSString stringWithFormat:@"Add %@ to an album",
+                                            PUNumberOfPhotos([[source selectedAssets] count])]];
+  _pickerBannerView = [[UIView alloc] initWithFrame:frame];
+  [_pickerBannerView addSubview:label];
+  [self _updateNavigationItem];
+}
+
+- (void)_pick:(PHAssetCollection*)album {
+  if (![album canPerformEditOperation:PHCollectionEditOperationAddContent]) return;
+  PUPhotosGridViewController* source = _source;
+  NSArray* added = [[source selectedAssets] allObjects];
+  PUChangeLibrary(
+      [NSArray arrayWithObjects:source, album, added, nil],
+      ^{
+        [[PHAssetCollectionChangeRequest changeRequestForAssetCollection:album assets:nil] addAssets:added];
+      },
+      ^{
+        [source _refetch];
+      });
+  [self dismissViewControllerAnimated:YES completion:nil];
+  [source setEditing:NO animated:YES];
 }
 
 // Editing.
@@ -168,12 +210,13 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 }
 
 - (void)_updateNavigationItem {
-  const BOOL editing = [self isEditing];
+  const bool edits = !_source && ![self isEditing];
+  NSString* title = _source ? @"Cancel" : edits ? @"Edit" : @"Done";
   UIBarButtonItem* item = [UIBarButtonItem alloc];
-  item = [item initWithTitle:editing ? @"Done" : @"Edit"
+  item = [item initWithTitle:title
                        style:0
                       target:self
-                      action:editing ? @selector(_handleDoneButton:) : @selector(_handleEditButton:)];
+                      action:edits ? @selector(_handleEditButton:) : @selector(_handleDoneButton:)];
   [[self navigationItem] setRightBarButtonItem:[item autorelease]];
 }
 
@@ -182,13 +225,26 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 }
 
 - (void)_handleDoneButton:(id)sender {
+  if (_source) return [self dismissViewControllerAnimated:YES completion:nil];
   [self setEditing:NO animated:YES];
 }
 
 - (void)albumListCellContentView:(PUAlbumListCellContentView*)tile performDeleteAction:(id)action {
   PHCollection* collection = [self collectionAtIndexPath:[self indexPathForAlbumListCellContentView:tile]];
-  device::sharedPhotoDatabase().removeCollection([collection _identifier]);
-  [self reloadContentView];
+  NSArray* deleted = [NSArray arrayWithObject:collection];
+  const bool isAlbum = [collection isKindOfClass:[PHAssetCollection class]];
+  PUChangeLibrary(
+      [NSArray arrayWithObjects:self, deleted, nil],
+      ^{
+        if (isAlbum) {
+          [PHAssetCollectionChangeRequest deleteAssetCollections:deleted];
+        } else {
+          [PHCollectionListChangeRequest deleteCollectionLists:deleted];
+        }
+      },
+      ^{
+        [self reloadContentView];
+      });
 }
 
 @end

@@ -2,14 +2,6 @@
 
 #import "device/frameworks/PhotosUI/PUAlbumListViewController.h"
 
-namespace {
-
-PHCollectionList* userCollections() {
-  return [[PHCollectionList fetchRootAlbumCollectionListWithOptions:nil] firstObject];
-}
-
-}  // namespace
-
 @implementation PUAlbumGadget
 
 @synthesize collection = _collection;
@@ -68,7 +60,7 @@ PHCollectionList* userCollections() {
   for (PUAlbumGadget* gadget in _gadgets)
     [known setObject:gadget forKey:[[gadget collection] localIdentifier]];
   NSMutableArray* gadgets = [NSMutableArray array];
-  for (PHCollection* collection in [userCollections() collections]) {
+  for (PHCollection* collection in [PUUserCollections() collections]) {
     PUAlbumGadget* gadget = [known objectForKey:[collection localIdentifier]];
     [gadget setCollection:collection];
     if (!gadget) gadget = [[[PUAlbumGadget alloc] initWithCollection:collection] autorelease];
@@ -87,7 +79,7 @@ PHCollectionList* userCollections() {
 
 - (void)userDidSelectAccessoryButton:(id)sender {
   PUAlbumListViewController* list = [PUAlbumListViewController alloc];
-  list = [[list initWithCollectionList:userCollections()] autorelease];
+  list = [[list initWithCollectionList:PUUserCollections()] autorelease];
   [list setTitle:[self localizedTitle]];
   [[self navigationController] pushViewController:list animated:YES];
 }

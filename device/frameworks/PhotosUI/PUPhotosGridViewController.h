@@ -3,16 +3,29 @@
 #import "device/frameworks/Photos/Photos.h"
 #import "device/frameworks/UIKit/UIKit.h"
 
-/// A photo in a grid. It reads "Photo, 2020-05-01 12:00:00", or "Video, ...", by its creation date in UTC.
+/// "1 Photo", "2 Photos".
+NSString* PUNumberOfPhotos(NSUInteger count);
+
+/// A photo in a grid. It reads "Photo, 2020-05-01 12:00:00", or "Video, ...", by its creation date in UTC;
+/// a selected one, "Photo, ..., selected".
 @interface PUPhotosGridCell : UICollectionViewCell
-- (void)_setAsset:(PHAsset*)asset;
+- (void)_setAsset:(PHAsset*)asset selected:(BOOL)selected;
 @end
 
+/// The photos of a collection, fetched again each time it appears. "Select" begins editing, in which touching
+/// a photo selects it, and its toolbar tells what can be done with the selection.
 @interface PUPhotosGridViewController : UICollectionViewController {
   PHFetchResult* _assets;
+  NSMutableSet* _selectedAssets;
 }
-/// What it shows, fetched again each time it appears.
-- (PHFetchResult*)_fetchAssets;
+/// Empty outside of editing.
+@property(nonatomic, readonly) NSSet* selectedAssets;
+/// Takes the selection out of the collection, where the user may; else nothing happens. The block, which may
+/// be nil, follows on the main thread.
+- (void)_removeSelectedAssetsWithCompletion:(void (^)(void))done;
+/// Shows what the library holds now.
+- (void)_refetch;
+- (PHAssetCollection*)_shownCollection;
 @end
 
 /// All of the user's library.

@@ -1,18 +1,34 @@
 #import "device/frameworks/PhotosUI/PUPhotosGridViewController.h"
 
+#import "device/frameworks/PhotosUI/PUAlbumListViewController.h"
+#import "device/frameworks/PhotosUI/PUDeletePhotosActionController.h"
+#import "device/frameworks/PhotosUI/PULibraryChange.h"
+#import "device/frameworks/PhotosUI/PUTabbedLibraryViewController.h"
+
 namespace {
 
 NSString* const kCell = @"PUPhotosGridCell";
 constexpr CGFloat kPhotoSize = 92;
 constexpr CGFloat kSpacing = 1;
 
+UIBarButtonItem* barItem(NSString* title, id target, SEL action) {
+  return [[[UIBarButtonItem alloc] initWithTitle:title style:0 target:target action:action] autorelease];
+}
+
 }  // namespace
+
+NSString* PUNumberOfPhotos(NSUInteger count) {
+  return [NSString
+      stringWithFormat:@"%lu %@", static_cast<unsigned long>(count), count == 1 ? @"Photo" : @"Photos"];
+}
 
 @implementation PUPhotosGridCell
 
-- (void)_setAsset:(PHAsset*)asset {
+- (void)_setAsset:(PHAsset*)asset selected:(BOOL)selected {
+  NSString* text = [asset _words];
+  if (selected) text = [text stringByAppendingString:@", selected"];
   [[self contentView] setBackgroundColor:[asset _pixelColor]];
-  [[self contentView] setAccessibilityLabel:[asset _words]];
+  [[self contentView] setAccessibilityLabel:text];
 }
 
 @end
@@ -23,15 +39,20 @@ constexpr CGFloat kSpacing = 1;
   UICollectionViewFlowLayout* layout = [[[UICollectionViewFlowLayout alloc] init] autorelease];
   [layout setItemSize:CGSizeMake(kPhotoSize, kPhotoSize)];
   [layout _setSpacing:kSpacing];
-  return [super initWithCollectionViewLayout:layout];
+  self = [super initWithCollectionViewLayout:layout];
+  if (!self) return nil;
+  _selectedAssets = [[NSMutableSet alloc] init];
+  [self _updateBars];
+  return self;
 }
 
 - (void)dealloc {
   [_assets release];
+  [_selectedAssets release];
   [super dealloc];
 }
 
-- (PHFetchResult*)_fetchAssets {
+- (PHAssetCollection*)_shownCollection {
   return nil;
 }
 
@@ -42,9 +63,22 @@ constexpr CGFloat kSpacing = 1;
 
 - (void)viewWillAppear:(BOOL)animated {
   [super viewWillAppear:animated];
+  [self _refetch];
+}
+
+- (void)viewWillDisappear:(BOOL)animated {
+  [super viewWillDisappear:animated];
+  if ([self isEditing]) [self setEditing:NO animated:animated];
+}
+
+- (void)_refetch {
   [_assets release];
-  _assets = [[self _fetchAssets] retain];
+  _assets = [[PHAsset fetchAssetsInAssetCollection:[self _shownCollection] options:nil] retain];
   [[self collectionView] reloadData];
+}
+
+- (PHAsset*)_assetAtIndexPath:(NSIndexPath*)path {
+  return [_assets objectAtIndex:static_cast<NSUInteger>([path item])];
 }
 
 - (NSInteger)collectionView:(UICollectionView*)view numberOfItemsInSection:(NSInteger)section {
@@ -53,8 +87,105 @@ constexpr CGFloat kSpacing = 1;
 
 - (UICollectionViewCell*)collectionView:(UICollectionView*)view cellForItemAtIndexPath:(NSIndexPath*)path {
   PUPhotosGridCell* cell = [view dequeueReusableCellWithReuseIdentifier:kCell forIndexPath:path];
-  [cell _setAsset:[_assets objectAtIndex:static_cast<NSUInteger>([path item])]];
+  PHAsset* asset = [self _assetAtIndexPath:path];
+  [cell _setAsset:asset selected:[_selectedAssets containsObject:asset]];
   return cell;
+}
+
+// Selecting.
+
+- (NSSet*)selectedAssets {
+  return [NSSet setWithSet:_selectedAssets];
+}
+
+- (void)setEditing:(BOOL)editing animated:(BOOL)animated {
+  [super setEditing:editing animated:animated];
+  [_selectedAssets removeAllObjects];
+  [self _updateBars];
+  [[self navigationController] setToolbarHidden:!editing animated:animated];
+  if (!editing) [self _refetch];
+}
+
+- (void)_updateBars {
+  const BOOL editing = [self isEditing];
+  UIBarButtonItem* toggle = barItem(editing ? @"Cancel" : @"Select", self, @selector(_toggleEditing));
+  [[self navigationItem] setRightBarButtonItem:toggle];
+  if (!editing) return [self setToolbarItems:nil];
+  NSMutableArray* items = [NSMutableArray array];
+  [items addObject:barItem(@"Add To", self, @selector(_addSelectionToAlbum))];
+  if ([self _canRemove]) [items addObject:barItem(@"Remove", self, @selector(_removeSelection))];
+  [items addObject:barItem(@"Delete", self, @selector(_deleteSelection))];
+  [self setToolbarItems:items];
+  [self _updateToolbarItems];
+}
+
+- (void)_updateToolbarItems {
+  for (UIBarButtonItem* item in [self toolbarItems]) [item setEnabled:[_selectedAssets count] > 0];
+}
+
+- (void)_toggleEditing {
+  [self setEditing:![self isEditing] animated:YES];
+}
+
+- (void)collectionView:(UICollectionView*)view didSelectItemAtIndexPath:(NSIndexPath*)path {
+  if (![self isEditing]) return;
+  PHAsset* asset = [self _assetAtIndexPath:path];
+  const bool selected = ![_selectedAssets containsObject:asset];
+  if (selected) {
+    [_selectedAssets addObject:asset];
+  } else {
+    [_selectedAssets removeObject:asset];
+  }
+  [static_cast<PUPhotosGridCell*>([view cellForItemAtIndexPath:path]) _setAsset:asset selected:selected];
+  [self _updateToolbarItems];
+}
+
+// What is done with the selection.
+
+- (void)_addSelectionToAlbum {
+  PUAlbumListViewController* list = [PUAlbumListViewController alloc];
+  list = [[list initWithCollectionList:PUUserCollections()] autorelease];
+  [list setTitle:@"Add to Album"];
+  [list _pickFor:self];
+  PUNavigationController* picker = [PUNavigationController alloc];
+  picker = [[picker initWithRootViewController:list] autorelease];
+  [[picker view] setBackgroundColor:[UIColor whiteColor]];
+  [self presentViewController:picker animated:YES completion:nil];
+}
+
+- (void)_deleteSelection {
+  PUDeletePhotosActionController* deletion = [PUDeletePhotosActionController alloc];
+  deletion = [[deletion initWithAssets:[_selectedAssets allObjects]] autorelease];
+  [deletion performFrom:self
+             completion:^{
+               [self setEditing:NO animated:YES];
+             }];
+}
+
+- (BOOL)_canRemove {
+  return [[self _shownCollection] canPerformEditOperation:PHCollectionEditOperationRemoveContent];
+}
+
+- (void)_removeSelection {
+  [self _removeSelectedAssetsWithCompletion:^{
+    [self setEditing:NO animated:YES];
+  }];
+}
+
+- (void)_removeSelectedAssetsWithCompletion:(void (^)(void))done {
+  if (![self _canRemove]) return;
+  PHAssetCollection* album = [self _shownCollection];
+  NSArray* removed = [_selectedAssets allObjects];
+  PUChangeLibrary(
+      [NSArray arrayWithObjects:self, album, removed, nil],
+      ^{
+        [[PHAssetCollectionChangeRequest changeRequestForAssetCollection:album
+                                                                  assets:nil] removeAssets:removed];
+      },
+      ^{
+        [self _refetch];
+        if (done) done();
+      });
 }
 
 @end
@@ -71,8 +202,8 @@ constexpr CGFloat kSpacing = 1;
   [super viewWillAppear:animated];
 }
 
-- (PHFetchResult*)_fetchAssets {
-  return [PHAsset fetchAssetsInAssetCollection:[PHAssetCollection _cameraRoll] options:nil];
+- (PHAssetCollection*)_shownCollection {
+  return [PHAssetCollection _cameraRoll];
 }
 
 @end
@@ -102,8 +233,8 @@ constexpr CGFloat kSpacing = 1;
   [self setTitle:[collection localizedTitle]];
 }
 
-- (PHFetchResult*)_fetchAssets {
-  return [PHAsset fetchAssetsInAssetCollection:_assetCollection options:nil];
+- (PHAssetCollection*)_shownCollection {
+  return _assetCollection;
 }
 
 @end

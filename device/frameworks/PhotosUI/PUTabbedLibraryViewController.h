@@ -3,6 +3,8 @@
 #import "device/frameworks/UIKit/UIKit.h"
 
 @interface PUNavigationController : UINavigationController
+/// Whose items its toolbar shows.
+@property(nonatomic, readonly) UIViewController* _currentToolbarViewController;
 @end
 
 /// The Photos app's tabs, "Photos" and "Albums".

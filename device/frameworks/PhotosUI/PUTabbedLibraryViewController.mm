@@ -4,6 +4,11 @@
 #import "device/frameworks/PhotosUI/PUPhotosGridViewController.h"
 
 @implementation PUNavigationController
+
+- (UIViewController*)_currentToolbarViewController {
+  return [self topViewController];
+}
+
 @end
 
 @implementation PUTabbedLibraryViewController

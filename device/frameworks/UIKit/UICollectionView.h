@@ -95,6 +95,7 @@ enum UICollectionViewScrollDirection : NSInteger {
 - (void)registerClass:(Class)cellClass forCellWithReuseIdentifier:(NSString*)identifier;
 - (id)dequeueReusableCellWithReuseIdentifier:(NSString*)identifier forIndexPath:(NSIndexPath*)path;
 - (void)reloadData;
+- (NSInteger)numberOfSections;
 - (NSInteger)numberOfItemsInSection:(NSInteger)section;
 @property(nonatomic, readonly) NSArray* visibleCells;
 @property(nonatomic, readonly) NSArray* indexPathsForVisibleItems;

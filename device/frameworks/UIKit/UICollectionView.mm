@@ -177,6 +177,10 @@
   [self setNeedsLayout];
 }
 
+- (NSInteger)numberOfSections {
+  return 1;
+}
+
 - (NSInteger)numberOfItemsInSection:(NSInteger)section {
   if (_itemCount < 0) _itemCount = [_dataSource collectionView:self numberOfItemsInSection:section];
   return _itemCount;

@@ -3,9 +3,13 @@
 namespace {
 constexpr CGFloat kStatusBarHeight = 44;
 constexpr CGFloat kNavigationBarHeight = 44;
+constexpr CGFloat kToolbarHeight = 44;
 }  // namespace
 
 @implementation UINavigationController
+
+@synthesize toolbar = _toolbar;
+@synthesize toolbarHidden = _toolbarHidden;
 
 - (id)init {
   self = [super init];
@@ -13,6 +17,8 @@ constexpr CGFloat kNavigationBarHeight = 44;
   _viewControllers = [[NSArray alloc] init];
   _navigationBar = [[UINavigationBar alloc] init];
   [_navigationBar setDelegate:self];
+  _toolbar = [[UIToolbar alloc] init];
+  _toolbarHidden = YES;
   return self;
 }
 
@@ -25,6 +31,7 @@ constexpr CGFloat kNavigationBarHeight = 44;
 - (void)dealloc {
   [_navigationBar setDelegate:nil];
   [_navigationBar release];
+  [_toolbar release];
   [_viewControllers release];
   [super dealloc];
 }
@@ -36,6 +43,7 @@ constexpr CGFloat kNavigationBarHeight = 44;
 - (void)viewDidLoad {
   [super viewDidLoad];
   [[self view] addSubview:[self navigationBar]];
+  [[self view] addSubview:_toolbar];
   if (UIViewController* top = [self topViewController]) [[self view] insertSubview:[top view] atIndex:0];
 }
 
@@ -44,7 +52,20 @@ constexpr CGFloat kNavigationBarHeight = 44;
   const CGSize size = [[self view] bounds].size;
   constexpr CGFloat kTop = kStatusBarHeight + kNavigationBarHeight;
   [_navigationBar setFrame:CGRectMake(0, kStatusBarHeight, size.width, kNavigationBarHeight)];
-  [[[self topViewController] view] setFrame:CGRectMake(0, kTop, size.width, size.height - kTop)];
+  const CGFloat end = size.height - (_toolbarHidden ? 0 : kToolbarHeight);
+  [_toolbar setItems:[[self topViewController] toolbarItems]];
+  [_toolbar setHidden:_toolbarHidden];
+  [_toolbar setFrame:CGRectMake(0, end, size.width, kToolbarHeight)];
+  [[[self topViewController] view] setFrame:CGRectMake(0, kTop, size.width, end - kTop)];
+}
+
+- (void)setToolbarHidden:(BOOL)hidden {
+  [self setToolbarHidden:hidden animated:NO];
+}
+
+- (void)setToolbarHidden:(BOOL)hidden animated:(BOOL)animated {
+  _toolbarHidden = hidden;
+  [[self viewIfLoaded] setNeedsLayout];
 }
 
 - (NSArray*)viewControllers {

@@ -68,6 +68,7 @@ constexpr CGFloat kTabBarHeight = 83;
 - (void)setSelectedIndex:(NSUInteger)index {
   UIViewController* old = [self selectedViewController];
   _selectedIndex = index;
+  [_tabBar setSelectedItem:[[self selectedViewController] tabBarItem]];
   if (![self viewIfLoaded]) return;
   [self _replaceOnScreen:old with:[self selectedViewController] in:[self view] animated:NO];
 }

@@ -172,6 +172,37 @@ TEST_F(PhotoChanges, HideAssetsAndShowThemAgain) {
   EXPECT_TRUE(isHidden());
   apply(all, false);
   EXPECT_FALSE(isHidden());
+  const auto set = ask<"setWithArray:", Object>(hostType<"NSSet">(), all);
+  EXPECT_TRUE(raises([&] { apply(set, true); })) << "no array";
+}
+
+TEST_F(PhotoChanges, DeleteWhatTheOwnerMayDelete) {
+  const auto pets = library_.addAlbum("Pets"), synced = library_.addSyncedAlbum("Synced");
+  const auto trips = library_.addFolder("Trips");
+  library_.addAlbum("Fjords", trips);
+  library_.addToAlbum(library_.addAsset({}), pets);
+  library_.addToAlbum(library_.addAsset({.isHidden = true}), pets);
+  const auto in = [](Object object) {
+    return ask<"arrayWithObject:", Object>(hostType<"NSArray">(), object);
+  };
+  const auto deleteAlbum = [&](std::int64_t number) {
+    ask<"deleteAssetCollections:">(hostType<"PHAssetCollectionChangeRequest">(), in(album(number)));
+  };
+  const auto topLevel = ask<"fetchTopLevelUserCollectionsWithOptions:", PHFetchResult<PHCollection>>(
+      hostType<"PHCollection">(), Object());
+  const auto deletePhotos = [&] { ask<"deleteAssets:">(hostType<"PHAssetChangeRequest">(), photos()); };
+  const auto deleteFolder = [&] {
+    ask<"deleteCollectionLists:">(hostType<"PHCollectionListChangeRequest">(), in(topLevel.lastObject()));
+  };
+  EXPECT_EQ(change([&] { EXPECT_TRUE(raises([&] { deleteAlbum(synced); })); }), "");
+  EXPECT_TRUE(raises(deletePhotos)) << "outside of a change";
+  EXPECT_EQ(change(deletePhotos), "");
+  EXPECT_EQ(library_.allAssets().size(), 1u);
+  EXPECT_TRUE(isHidden()) << "it was not among them";
+  EXPECT_EQ(library_.assetsInAlbum(pets).size(), 1u);
+  EXPECT_EQ(change([&] { deleteAlbum(pets), deleteFolder(); }), "");
+  EXPECT_EQ(titles(), Titles{"Synced"});
+  EXPECT_EQ(library_.allAssets().size(), 1u);
 }
 
 TEST_F(PhotoChanges, PicturesHaveTheSizeAskedFor) {
