@@ -8,6 +8,7 @@
 #include "device/frameworks/owner.hpp"
 #include "device/system/run_loop.hpp"
 #include "device/user/alert_text.hpp"
+#include "device/user/picture.hpp"
 #include "device/user/screen.hpp"
 #include "device/user/user.hpp"
 
@@ -18,6 +19,8 @@ using std::chrono::milliseconds;
 
 /// How long a step waits for the screen to come to rest.
 constexpr milliseconds kRest{100};
+/// How long one who takes a picture waits for what moves.
+constexpr milliseconds kLongestAnimation{1000};
 
 [[noreturn]] void fail(const std::string& what) {
   throw std::runtime_error(what + "; on screen:\n" + screenText());
@@ -300,6 +303,12 @@ std::string screen(const Arguments&) {
   return screenText();
 }
 
+std::string picture(const Arguments&) {
+  settle();
+  runUntil([] { return !isScreenMoving(); }, kLongestAnimation);
+  return screenPicture();
+}
+
 std::string feltFeedback(const Arguments&) {
   std::string codes;
   for (NSNumber* code in [[[UIDevice currentDevice] _tapticEngine] _feltFeedback]) {
@@ -346,6 +355,7 @@ const std::map<std::string_view, Command> kCommands = {
     {"waitToSee", {2, waitToSee}},
     {"waitUntilGone", {2, waitUntilGone}},
     {"screen", {0, screen}},
+    {"picture", {0, picture}},
     {"feltFeedback", {0, feltFeedback}},
     {"ownerRequest", {0, ownerRequest}},
     {"waitForOwnerRequest", {1, waitForOwnerRequest}},

@@ -4,9 +4,12 @@
 #include <string_view>
 #include <vector>
 
-@class UIAlertController, UIView;
+@class NSArray, UIAlertController, UIView;
 
 namespace device {
+
+/// Whose alpha is less cannot be seen.
+inline constexpr double kTransparent = 0.01;
 
 // What is on the screen of this process's app, as a person sees it. Main thread only.
 
@@ -14,13 +17,19 @@ namespace device {
 std::string textOf(UIView* view);
 
 // On screen is what is neither hidden, transparent nor clipped away, and not all behind an opaque view;
-// nothing while another app is in front.
+// nothing while another app is in front. What an animation moves is where it is shown at this moment.
+
+/// Backmost first.
+NSArray* windowsOnScreen();
 
 /// The views on screen that a finger can reach, a parent before its children: what is presented keeps it from
 /// what is behind.
 std::vector<UIView*> reachableViews();
 
 bool isOnScreen(std::string_view text);
+
+/// Whether an animation can be seen to run.
+bool isScreenMoving();
 
 /// The alert or action sheet in front, nil without one.
 UIAlertController* alertInFront();

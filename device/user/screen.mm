@@ -9,8 +9,6 @@
 namespace device {
 namespace {
 
-constexpr CGFloat kTransparent = 0.01;
-
 /// A view, and the part of the screen that it fills.
 struct Sight {
   UIView* view;
@@ -26,24 +24,28 @@ bool isOpaque(const Sight& sight) {
   return sight.alpha * alpha == 1;
 }
 
-/// What is around the views to be collected: the part of the screen that is left to them, and the alpha.
+/// What is around the views to be collected: where its own origin is, the part of the screen that is left to
+/// them, and the alpha.
 struct Surroundings {
+  CGPoint origin;
   CGRect clip;
   CGFloat alpha = 1;
   int depth = 0;
 };
 
 /// In the order in which they are painted.
-void collect(UIView* view, CGPoint windowOrigin, Surroundings around, std::vector<Sight>& sights) {
-  around.alpha *= [view alpha];
+void collect(UIView* view, Surroundings around, std::vector<Sight>& sights) {
+  const UIViewLook look = [view _shownLook];
+  around.alpha *= look.alpha;
   if ([view isHidden] || around.alpha < kTransparent) return;
-  const CGPoint inWindow = [view convertPoint:[view bounds].origin toView:nil];
-  const CGRect frame = {{inWindow.x + windowOrigin.x, inWindow.y + windowOrigin.y}, [view frame].size};
+  CGRect frame = look.frame();
+  frame.origin = {frame.origin.x + around.origin.x, frame.origin.y + around.origin.y};
   const CGRect place = CGRectIntersection(frame, around.clip);
   if (!CGRectIsEmpty(place)) sights.push_back({view, place, around.alpha, around.depth});
   if ([view clipsToBounds]) around.clip = place;
   ++around.depth;
-  for (UIView* subview in [view subviews]) collect(subview, windowOrigin, around, sights);
+  around.origin = {frame.origin.x - look.bounds.origin.x, frame.origin.y - look.bounds.origin.y};
+  for (UIView* subview in [view subviews]) collect(subview, around, sights);
 }
 
 /// Whether a view painted later hides all of one. Its own subviews belong to what is seen of it.
@@ -56,17 +58,11 @@ bool isCovered(const std::vector<Sight>& sights, std::size_t index) {
       [&](const Sight& later) { return isOpaque(later) && CGRectContainsRect(later.place, covered.place); });
 }
 
-/// The windows on screen, backmost first.
-NSArray* windows() {
-  UIApplication* application = [UIApplication sharedApplication];
-  return [application _isInBackground] ? [NSArray array] : [application windows];
-}
-
 /// Backmost first, a parent before its children.
 std::vector<Sight> sightsOnScreen() {
   std::vector<Sight> all;
-  for (UIWindow* window in windows()) {
-    collect(window, [window frame].origin, {.clip = [[UIScreen mainScreen] bounds]}, all);
+  for (UIWindow* window in windowsOnScreen()) {
+    collect(window, {.origin = CGPointZero, .clip = [[UIScreen mainScreen] bounds]}, all);
   }
   std::vector<Sight> seen;
   for (std::size_t index = 0; index < all.size(); ++index) {
@@ -83,7 +79,7 @@ UIViewController* presentedInFront(UIWindow* window) {
 }
 
 std::string lineOf(const Sight& sight) {
-  const CGRect frame = [sight.view frame];
+  const CGRect frame = [sight.view _shownLook].frame();
   char place[128];
   std::snprintf(place, sizeof place, " (%g %g %g %g)\n", frame.origin.x, frame.origin.y, frame.size.width,
                 frame.size.height);
@@ -100,6 +96,15 @@ bool isWithin(UIView* view, UIView* ancestor) {
 
 }  // namespace
 
+NSArray* windowsOnScreen() {
+  UIApplication* application = [UIApplication sharedApplication];
+  return [application _isInBackground] ? [NSArray array] : [application windows];
+}
+
+bool isScreenMoving() {
+  return std::ranges::any_of(sightsOnScreen(), [](const Sight& sight) { return [sight.view _isMoving]; });
+}
+
 std::string textOf(UIView* view) {
   const char* text = [[view accessibilityLabel] UTF8String];
   return text ? text : "";
@@ -108,7 +113,7 @@ std::string textOf(UIView* view) {
 std::vector<UIView*> reachableViews() {
   const std::vector<Sight> sights = sightsOnScreen();
   std::vector<UIView*> views;
-  for (UIWindow* window in [windows() reverseObjectEnumerator]) {
+  for (UIWindow* window in [windowsOnScreen() reverseObjectEnumerator]) {
     UIViewController* presented = presentedInFront(window);
     UIView* root = presented ? [presented view] : window;
     for (const Sight& sight : sights) {
@@ -124,7 +129,7 @@ bool isOnScreen(std::string_view text) {
 }
 
 UIAlertController* alertInFront() {
-  for (UIWindow* window in [windows() reverseObjectEnumerator]) {
+  for (UIWindow* window in [windowsOnScreen() reverseObjectEnumerator]) {
     UIViewController* front = presentedInFront(window);
     if ([front isKindOfClass:[UIAlertController class]]) return static_cast<UIAlertController*>(front);
   }

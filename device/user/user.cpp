@@ -59,6 +59,7 @@ void User::waitUntilGone(std::string_view text, std::chrono::milliseconds patien
 }
 
 std::string User::screen() const { return perform({"screen"}); }
+std::string User::picture() const { return perform({"picture"}); }
 
 std::vector<int> User::feltFeedback() const {
   const std::string answer = perform({"feltFeedback"});

@@ -62,6 +62,8 @@ class User {
 
   /// What is on screen: the visible view tree as indented lines `Class "text" (x y width height)`.
   std::string screen() const;
+  /// The phone with what is on its screen, once nothing moves there, as an SVG document.
+  std::string picture() const;
 
   /// The haptic feedback codes felt so far, oldest first.
   std::vector<int> feltFeedback() const;

@@ -11,7 +11,10 @@
 - (void)setThumbnailImage:(UIImage*)image animated:(BOOL)animated;
 @end
 
-@interface CUShutterButton : UIButton
+@interface CUShutterButton : UIButton {
+  UIView* _edge;
+  UIView* _disc;
+}
 @end
 
 /// Below the viewfinder: the image well, the shutter and the button that switches between photo and video.

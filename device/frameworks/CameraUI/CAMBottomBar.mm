@@ -4,6 +4,7 @@ namespace {
 
 constexpr CGFloat kWellSize = 50;
 constexpr CGFloat kShutterSize = 66;
+constexpr CGFloat kRing = 3;
 constexpr CGFloat kModeWidth = 60;
 constexpr CGFloat kMargin = 20;
 
@@ -41,7 +42,41 @@ constexpr CGFloat kMargin = 20;
 
 @end
 
+/// A white disc in a white ring, which says what it does only to who cannot see it.
 @implementation CUShutterButton
+
+- (id)initWithFrame:(CGRect)frame {
+  self = [super initWithFrame:frame];
+  if (!self) return nil;
+  [self setBackgroundColor:[UIColor whiteColor]];
+  _edge = [[UIView alloc] init];
+  [_edge setBackgroundColor:[UIColor blackColor]];
+  [_edge setUserInteractionEnabled:NO];
+  _disc = [[UIView alloc] init];
+  [_disc setBackgroundColor:[UIColor whiteColor]];
+  [_disc setUserInteractionEnabled:NO];
+  [self addSubview:_edge];
+  [self addSubview:_disc];
+  return self;
+}
+
+- (void)dealloc {
+  [_edge release];
+  [_disc release];
+  [super dealloc];
+}
+
+- (void)layoutSubviews {
+  [super layoutSubviews];
+  CGFloat inset = 0;
+  for (UIView* part in @[ self, _edge, _disc ]) {
+    const CGFloat size = [self bounds].size.width - 2 * inset;
+    if (part != self) [part setFrame:CGRectMake(inset, inset, size, size)];
+    [[part layer] setCornerRadius:size / 2];
+    inset += kRing;
+  }
+}
+
 @end
 
 @implementation CAMBottomBar
@@ -59,6 +94,7 @@ constexpr CGFloat kMargin = 20;
   _imageWell = [[CAMImageWell alloc] init];
   _shutterButton = [[CUShutterButton alloc] init];
   _modeButton = [[UIButton alloc] init];
+  [_modeButton setTitleColor:[UIColor whiteColor] forState:0];
   for (UIView* view in @[ _backgroundView, _imageWell, _shutterButton, _modeButton ]) [self addSubview:view];
   return self;
 }

@@ -34,6 +34,7 @@ PHAsset* newestAsset() {
 
 - (void)viewDidLoad {
   [super viewDidLoad];
+  [[self view] setBackgroundColor:[UIColor colorWithWhite:0.15 alpha:1]];
   const CGSize size = [[self view] bounds].size;
   const CGRect frame = CGRectMake(0, size.height - kBarHeight, size.width, kBarHeight);
   _bottomBar = [[CAMBottomBar alloc] initWithFrame:frame];
@@ -51,7 +52,7 @@ PHAsset* newestAsset() {
 - (void)_capture:(NSInteger)type {
   const bool isVideo = type == PHAssetMediaTypeVideo;
   _mediaType = type;
-  [[_bottomBar shutterButton] setTitle:isVideo ? @"Record Video" : @"Take Picture" forState:0];
+  [[_bottomBar shutterButton] setAccessibilityLabel:isVideo ? @"Record Video" : @"Take Picture"];
   [[_bottomBar _modeButton] setTitle:isVideo ? @"Photo" : @"Video" forState:0];
 }
 

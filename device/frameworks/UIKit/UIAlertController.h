@@ -13,7 +13,7 @@ enum UIAlertActionStyle : NSInteger {
   UIAlertActionStyleDestructive = 2,
 };
 
-@class UIAlertAction;
+@class UIAlertAction, UIBarButtonItem;
 
 @interface UIAlertAction : NSObject {
   NSString* _title;
@@ -31,9 +31,13 @@ enum UIAlertActionStyle : NSInteger {
 @interface UIPopoverPresentationController : NSObject {
   UIView* _sourceView;
   CGRect _sourceRect;
+  UIBarButtonItem* _barButtonItem;
 }
 @property(nonatomic, retain) UIView* sourceView;
 @property(nonatomic) CGRect sourceRect;
+@property(nonatomic, retain) UIBarButtonItem* barButtonItem;
+/// Where on a screen a panel of that size lies: beside its source, and wholly on the screen.
+- (CGRect)_frameOfSize:(CGSize)size onScreen:(CGRect)screen;
 @end
 
 /// Each of its buttons is a UIButton of its view; touching one dismisses the alert, then runs the handler.

@@ -1,11 +1,25 @@
 #import "device/frameworks/UIKit/UIAlertController.h"
 
+#include <algorithm>
+
 #import "device/frameworks/UIKit/UIDevice.h"
 
 namespace {
 
-constexpr CGFloat kPanelWidth = 270;
+constexpr CGFloat kAlertWidth = 270;
+constexpr CGFloat kSheetWidth = 359;
 constexpr CGFloat kRowHeight = 44;
+constexpr CGFloat kMargin = 8;
+/// From the top of the screen to the end of a bar button.
+constexpr CGFloat kBelowBarButton = 88;
+constexpr CGFloat kStatusBarHeight = 44;
+constexpr CGFloat kHomeIndicator = 34;
+
+void addLine(UIView* panel, CGFloat y, CGFloat width) {
+  UIView* line = [[[UIView alloc] initWithFrame:CGRectMake(0, y, width, 0.5)] autorelease];
+  [line setBackgroundColor:[UIColor colorWithWhite:0.75 alpha:1]];
+  [panel addSubview:line];
+}
 
 }  // namespace
 
@@ -46,10 +60,23 @@ constexpr CGFloat kRowHeight = 44;
 
 @synthesize sourceView = _sourceView;
 @synthesize sourceRect = _sourceRect;
+@synthesize barButtonItem = _barButtonItem;
 
 - (void)dealloc {
   [_sourceView release];
+  [_barButtonItem release];
   [super dealloc];
+}
+
+- (CGRect)_frameOfSize:(CGSize)size onScreen:(CGRect)screen {
+  const CGFloat right = screen.size.width - size.width - kMargin;
+  const CGFloat bottom = screen.size.height - size.height - kMargin;
+  if (_barButtonItem) return {{right, std::min(kBelowBarButton, bottom)}, size};
+  const CGPoint source = [_sourceView convertPoint:_sourceRect.origin toView:nil];
+  const CGFloat below = source.y + _sourceRect.size.height;
+  const CGFloat y = below <= bottom ? below : source.y - size.height;
+  const CGFloat x = source.x + _sourceRect.size.width / 2 - size.width / 2;
+  return {{std::clamp(x, kMargin, right), std::max(y, kMargin)}, size};
 }
 
 @end
@@ -127,7 +154,7 @@ constexpr CGFloat kRowHeight = 44;
 
 - (void)_checkPresentation {
   [super _checkPresentation];
-  if (![self _isPopover] || [_popover sourceView]) return;
+  if (![self _isPopover] || [_popover sourceView] || [_popover barButtonItem]) return;
   [NSException
        raise:NSGenericException
       format:@"UIPopoverPresentationController (%@) should have a non-nil sourceView or barButtonItem set "
@@ -135,40 +162,73 @@ constexpr CGFloat kRowHeight = 44;
              _popover];
 }
 
-// The view: a panel of rows in the middle of the screen, or at its bottom for a sheet.
+// The view: a panel of rows in the middle of the screen, at its bottom for a sheet, or a popover.
 
 - (void)loadView {
   NSMutableArray* rows = [NSMutableArray array];
-  [self _addLabel:[self title] to:rows];
-  [self _addLabel:_message to:rows];
-  [rows addObjectsFromArray:_textFields];
-  for (NSUInteger index = 0; index < [_actions count]; ++index) {
-    UIButton* button = [UIButton buttonWithType:0];
-    [button setTitle:[[_actions objectAtIndex:index] title] forState:0];
-    [button setTag:static_cast<NSInteger>(index)];
-    [button addTarget:self action:@selector(_buttonTapped:) forControlEvents:UIControlEventTouchUpInside];
-    [rows addObject:button];
+  [self _addLabel:[self title] font:[UIFont boldSystemFontOfSize:17] to:rows];
+  [self _addLabel:_message font:[UIFont systemFontOfSize:13] to:rows];
+  for (UITextField* field in _textFields) {
+    [field setBorderStyle:UITextBorderStyleRoundedRect];
+    [rows addObject:field];
   }
-  const CGRect screen = [[UIScreen mainScreen] bounds];
-  const CGFloat height = kRowHeight * static_cast<CGFloat>([rows count]);
-  const CGFloat free = screen.size.height - height;
-  const CGFloat top = _preferredStyle == UIAlertControllerStyleAlert ? free / 2 : free;
-  const CGRect frame = CGRectMake((screen.size.width - kPanelWidth) / 2, top, kPanelWidth, height);
+  const NSUInteger firstButton = [rows count];
+  // What cancels is the last one, wherever it was added.
+  for (const bool cancels : {false, true}) [self _addButtonsThatCancel:cancels to:rows];
+
+  const CGRect frame = [self _frameOfRows:[rows count]];
   UIView* panel = [[[_UIAlertControllerView alloc] initWithFrame:frame] autorelease];
-  CGFloat y = 0;
-  for (UIView* row in rows) {
-    [row setFrame:CGRectMake(0, y, kPanelWidth, kRowHeight)];
+  [panel setBackgroundColor:[UIColor whiteColor]];
+  [[panel layer] setCornerRadius:14];
+  const CGFloat height = frame.size.height / static_cast<CGFloat>([rows count]);
+  for (NSUInteger index = 0; index < [rows count]; ++index) {
+    UIView* row = [rows objectAtIndex:index];
+    const CGFloat y = height * static_cast<CGFloat>(index);
+    const CGFloat inset = index < firstButton ? 2 * kMargin : 0;
+    [row setFrame:CGRectMake(inset, y, frame.size.width - 2 * inset, height)];
     [panel addSubview:row];
-    y += kRowHeight;
+    if (index >= firstButton) addLine(panel, y, frame.size.width);
   }
   [self setView:panel];
 }
 
-- (void)_addLabel:(NSString*)text to:(NSMutableArray*)rows {
+- (CGRect)_frameOfRows:(NSUInteger)count {
+  const CGRect screen = [[UIScreen mainScreen] bounds];
+  const bool isSheet = _preferredStyle == UIAlertControllerStyleActionSheet && ![self _isPopover];
+  const CGFloat width = isSheet ? kSheetWidth : kAlertWidth;
+  // A phone would scroll what it has no room for.
+  const CGFloat height = std::min(kRowHeight * static_cast<CGFloat>(count),
+                                  screen.size.height - kStatusBarHeight - kHomeIndicator);
+  const CGFloat free = screen.size.height - height;
+  if ([self _isPopover]) return [_popover _frameOfSize:{width, height} onScreen:screen];
+  return CGRectMake((screen.size.width - width) / 2, isSheet ? free - kHomeIndicator : free / 2, width,
+                    height);
+}
+
+- (void)_addLabel:(NSString*)text font:(UIFont*)font to:(NSMutableArray*)rows {
   if (![text length]) return;
   UILabel* label = [[[UILabel alloc] init] autorelease];
   [label setText:text];
+  [label setFont:font];
+  [label setTextAlignment:NSTextAlignmentCenter];
+  [label setAdjustsFontSizeToFitWidth:YES];
+  [label setMinimumScaleFactor:0.5];
   [rows addObject:label];
+}
+
+- (void)_addButtonsThatCancel:(bool)cancels to:(NSMutableArray*)rows {
+  for (NSUInteger index = 0; index < [_actions count]; ++index) {
+    UIAlertAction* action = [_actions objectAtIndex:index];
+    if (([action style] == UIAlertActionStyleCancel) != cancels) continue;
+    UIButton* button = [UIButton buttonWithType:0];
+    [button setTitle:[action title] forState:0];
+    if ([action style] == UIAlertActionStyleDestructive) {
+      [button setTitleColor:[UIColor colorWithRed:1 green:0.23 blue:0.19 alpha:1] forState:0];
+    }
+    [button setTag:static_cast<NSInteger>(index)];
+    [button addTarget:self action:@selector(_buttonTapped:) forControlEvents:UIControlEventTouchUpInside];
+    [rows addObject:button];
+  }
 }
 
 - (void)_buttonTapped:(UIButton*)button {

@@ -20,7 +20,10 @@ UIApplication* theApplication = nil;
 
 - (id)initWithFrame:(CGRect)frame {
   self = [super initWithFrame:frame];
-  if (self) _hidden = YES;
+  if (!self) return nil;
+  _hidden = YES;
+  // What a phone's apps set themselves.
+  [self setBackgroundColor:[UIColor whiteColor]];
   return self;
 }
 

@@ -15,7 +15,11 @@
 
 @interface UIFont : NSObject {
   CGFloat _pointSize;
+  BOOL _bold;
 }
 + (UIFont*)systemFontOfSize:(CGFloat)size;
++ (UIFont*)boldSystemFontOfSize:(CGFloat)size;
 @property(nonatomic, readonly) CGFloat pointSize;
+@property(nonatomic, readonly) BOOL _isBold;
+- (UIFont*)fontWithSize:(CGFloat)size;
 @end

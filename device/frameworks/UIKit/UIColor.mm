@@ -50,11 +50,22 @@
 @implementation UIFont
 
 @synthesize pointSize = _pointSize;
+@synthesize _isBold = _bold;
 
 + (UIFont*)systemFontOfSize:(CGFloat)size {
   UIFont* font = [[[self alloc] init] autorelease];
   font->_pointSize = size;
   return font;
+}
+
++ (UIFont*)boldSystemFontOfSize:(CGFloat)size {
+  UIFont* font = [self systemFontOfSize:size];
+  font->_bold = YES;
+  return font;
+}
+
+- (UIFont*)fontWithSize:(CGFloat)size {
+  return _bold ? [UIFont boldSystemFontOfSize:size] : [UIFont systemFontOfSize:size];
 }
 
 @end

@@ -7,6 +7,12 @@ enum UIControlEvents : NSUInteger {
   UIControlEventEditingChanged = 1 << 17,
 };
 
+enum NSTextAlignment : NSInteger {
+  NSTextAlignmentLeft = 0,
+  NSTextAlignmentCenter = 1,
+  NSTextAlignmentRight = 2,
+};
+
 @interface UILabel : UIView {
   NSString* _text;
   UIFont* _font;
@@ -39,18 +45,26 @@ enum UIControlEvents : NSUInteger {
 
 @interface UIButton : UIControl {
   NSString* _currentTitle;
+  UIColor* _currentTitleColor;
 }
 + (id)buttonWithType:(NSInteger)type;
-/// One title serves all states.
+/// One title, of one colour, serves all states.
 - (void)setTitle:(NSString*)title forState:(NSUInteger)state;
+- (void)setTitleColor:(UIColor*)color forState:(NSUInteger)state;
 @property(nonatomic, readonly) NSString* currentTitle;
+/// Blue at first.
+@property(nonatomic, readonly) UIColor* currentTitleColor;
 @end
+
+enum UITextBorderStyle : NSInteger { UITextBorderStyleNone = 0, UITextBorderStyleRoundedRect = 3 };
 
 @interface UITextField : UIControl {
   NSString* _text;
   NSString* _placeholder;
   UIFont* _font;
   UIColor* _textColor;
+  NSInteger _textAlignment;
+  NSInteger _borderStyle;
   BOOL _secureTextEntry;
 }
 /// Never nil.
@@ -58,5 +72,7 @@ enum UIControlEvents : NSUInteger {
 @property(nonatomic, copy) NSString* placeholder;
 @property(nonatomic, retain) UIFont* font;
 @property(nonatomic, retain) UIColor* textColor;
+@property(nonatomic) NSInteger textAlignment;
+@property(nonatomic) NSInteger borderStyle;
 @property(nonatomic, getter=isSecureTextEntry) BOOL secureTextEntry;
 @end

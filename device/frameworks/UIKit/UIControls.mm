@@ -74,6 +74,7 @@
 
 - (void)dealloc {
   [_currentTitle release];
+  [_currentTitleColor release];
   [super dealloc];
 }
 
@@ -81,6 +82,15 @@
   [_currentTitle autorelease];
   _currentTitle = [title copy];
   [self setNeedsLayout];
+}
+
+- (UIColor*)currentTitleColor {
+  return _currentTitleColor ? _currentTitleColor : [UIColor colorWithRed:0 green:0.48 blue:1 alpha:1];
+}
+
+- (void)setTitleColor:(UIColor*)color forState:(NSUInteger)state {
+  [_currentTitleColor autorelease];
+  _currentTitleColor = [color retain];
 }
 
 - (void)layoutSubviews {
@@ -99,6 +109,8 @@
 @synthesize placeholder = _placeholder;
 @synthesize font = _font;
 @synthesize textColor = _textColor;
+@synthesize textAlignment = _textAlignment;
+@synthesize borderStyle = _borderStyle;
 @synthesize secureTextEntry = _secureTextEntry;
 
 - (id)initWithFrame:(CGRect)frame {

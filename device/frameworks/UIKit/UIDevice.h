@@ -27,10 +27,12 @@ enum UIDeviceOrientation : NSInteger {
 @interface UIDevice : NSObject {
   _UITapticEngine* _tapticEngine;
   NSInteger _orientation;
+  NSInteger _userInterfaceIdiom;
 }
 /// How the phone is held.
 @property(nonatomic, setter=_setOrientation:) NSInteger orientation;
 + (UIDevice*)currentDevice;
-- (NSInteger)userInterfaceIdiom;
+/// Whether it is a phone, as at first, or a pad.
+@property(nonatomic, setter=_setUserInterfaceIdiom:) NSInteger userInterfaceIdiom;
 - (_UITapticEngine*)_tapticEngine;
 @end

@@ -39,6 +39,7 @@
 @implementation UIDevice
 
 @synthesize orientation = _orientation;
+@synthesize userInterfaceIdiom = _userInterfaceIdiom;
 
 + (UIDevice*)currentDevice {
   static UIDevice* const device = [[self alloc] init];
@@ -56,10 +57,6 @@
 - (void)dealloc {
   [_tapticEngine release];
   [super dealloc];
-}
-
-- (NSInteger)userInterfaceIdiom {
-  return UIUserInterfaceIdiomPhone;
 }
 
 - (_UITapticEngine*)_tapticEngine {

@@ -3,15 +3,25 @@
 #import "device/frameworks/UIKit/UIColor.h"
 #import "device/frameworks/UIKit/UIView.h"
 
+enum UIImageRenderingMode : NSInteger {
+  UIImageRenderingModeAutomatic = 0,
+  UIImageRenderingModeAlwaysOriginal = 1,
+  UIImageRenderingModeAlwaysTemplate = 2,
+};
+
 @interface UIImage : NSObject {
   NSString* _path;
   NSData* _data;
   UIColor* _color;
   NSString* _name;
   CGSize _size;
+  NSInteger _renderingMode;
 }
 /// Nil when there is no file, or no PNG or JPEG in it.
 - (id)initWithContentsOfFile:(NSString*)path;
+/// The same image to be drawn in that mode.
+- (UIImage*)imageWithRenderingMode:(NSInteger)mode;
+@property(nonatomic, readonly) NSInteger renderingMode;
 @property(nonatomic, readonly) NSString* _path;
 @property(nonatomic, readonly) NSData* _data;
 /// In points; (0, 0) for a file's image, which nobody measures here.

@@ -17,6 +17,7 @@ bool isPicture(NSData* data) {
 @synthesize _data = _data;
 @synthesize size = _size;
 @synthesize _name = _name;
+@synthesize renderingMode = _renderingMode;
 @synthesize _color = _color;
 
 - (id)initWithContentsOfFile:(NSString*)path {
@@ -35,6 +36,17 @@ bool isPicture(NSData* data) {
   image->_color = [color retain];
   image->_size = size;
   image->_name = [name copy];
+  return image;
+}
+
+- (UIImage*)imageWithRenderingMode:(NSInteger)mode {
+  UIImage* image = [[[[self class] alloc] init] autorelease];
+  image->_path = [_path copy];
+  image->_data = [_data retain];
+  image->_color = [_color retain];
+  image->_name = [_name copy];
+  image->_size = _size;
+  image->_renderingMode = mode;
   return image;
 }
 

@@ -10,3 +10,4 @@
 #import "device/frameworks/UIKit/UIImage.h"
 #import "device/frameworks/UIKit/UINavigationController.h"
 #import "device/frameworks/UIKit/UITabBarController.h"
+#import "device/frameworks/UIKit/UIVisualEffect.h"

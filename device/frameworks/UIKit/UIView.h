@@ -7,6 +7,18 @@
 
 @class UIGestureRecognizer, UIViewController, UIWindow;
 
+enum UIViewAnimationOptions : NSUInteger { UIViewAnimationOptionAllowUserInteraction = 2 };
+
+/// What of a view animations move.
+struct UIViewLook {
+  CGPoint center;
+  CGRect bounds;
+  CGAffineTransform transform;
+  CGFloat alpha;
+
+  CGRect frame() const;
+};
+
 @interface UIView : UIResponder {
   UIView* _superview;
   NSMutableArray* _subviews;
@@ -20,6 +32,7 @@
   CGRect _bounds;
   CGAffineTransform _transform;
   CGFloat _alpha;
+  struct UIViewAnimations* _animations;
   NSInteger _tag;
   BOOL _hidden;
   BOOL _autoresizesSubviews;
@@ -70,12 +83,18 @@
 /// The frontmost view that a finger at the point would touch, nil when it touches none.
 - (UIView*)hitTest:(CGPoint)point withEvent:(id)event;
 
-/// The block runs when the delay has passed (an iPhone runs it at once, but shows nothing of it before).
+/// The block runs at once, and what it changes has its new value at once. Shown is the way there, which
+/// begins after the delay; until its end, a view takes touches only with the option that allows them.
 + (void)animateWithDuration:(double)duration
                       delay:(double)delay
                     options:(NSUInteger)options
                  animations:(void (^)(void))animations
                  completion:(void (^)(BOOL finished))completion;
+
+/// As it is on screen at this moment, on its way where an animation runs.
+@property(nonatomic, readonly) UIViewLook _shownLook;
+/// Whether one of its animations has begun and is not over.
+@property(nonatomic, readonly) BOOL _isMoving;
 
 /// What the view says to a person: its text, where it has one.
 @property(nonatomic, copy) NSString* accessibilityLabel;

@@ -2,11 +2,50 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #import "device/frameworks/UIKit/UIApplication.h"
 #import "device/frameworks/UIKit/UIDelayedBlock.h"
 #import "device/frameworks/UIKit/UIGestureRecognizer.h"
+#include "device/frameworks/UIKit/UIViewAnimations.hpp"
 #import "device/frameworks/UIKit/UIViewController.h"
+
+namespace {
+
+template <class Value>
+void change(UIViewAnimations*& animations, UIAnimatedProperty<Value> UIViewAnimations::*property,
+            Value& value, Value next) {
+  using Property = UIAnimatedProperty<Value>;
+  if (UIViewAnimation::current && Property::numbersOf(value) != Property::numbersOf(next)) {
+    if (!animations) animations = new UIViewAnimations;
+    Property& animated = animations->*property;
+    animated = {animated.shown(value), *UIViewAnimation::current};
+  }
+  value = next;
+}
+
+/// While a block runs, also where it raises.
+class AnimationBlock {
+ public:
+  explicit AnimationBlock(const UIViewAnimation* animation)
+      : outer_(std::exchange(UIViewAnimation::current, animation)) {}
+  ~AnimationBlock() { UIViewAnimation::current = outer_; }
+  AnimationBlock(const AnimationBlock&) = delete;
+  AnimationBlock& operator=(const AnimationBlock&) = delete;
+
+ private:
+  const UIViewAnimation* outer_;
+};
+
+}  // namespace
+
+CGRect UIViewLook::frame() const {
+  const CGFloat width =
+      std::abs(transform.a) * bounds.size.width + std::abs(transform.c) * bounds.size.height;
+  const CGFloat height =
+      std::abs(transform.b) * bounds.size.width + std::abs(transform.d) * bounds.size.height;
+  return CGRectMake(center.x + transform.tx - width / 2, center.y + transform.ty - height / 2, width, height);
+}
 
 @implementation UIView
 
@@ -53,18 +92,14 @@
   [_backgroundColor release];
   [_accessibilityLabel release];
   [_accessibilityIdentifier release];
+  delete _animations;
   [super dealloc];
 }
 
 // Geometry. Centre, bounds and transform are what is kept, as in a layer; the frame follows from them.
 
 - (CGRect)frame {
-  const CGFloat width =
-      std::abs(_transform.a) * _bounds.size.width + std::abs(_transform.c) * _bounds.size.height;
-  const CGFloat height =
-      std::abs(_transform.b) * _bounds.size.width + std::abs(_transform.d) * _bounds.size.height;
-  return CGRectMake(_center.x + _transform.tx - width / 2, _center.y + _transform.ty - height / 2, width,
-                    height);
+  return UIViewLook{_center, _bounds, _transform, _alpha}.frame();
 }
 
 - (void)setFrame:(CGRect)frame {
@@ -74,8 +109,20 @@
 
 - (void)setBounds:(CGRect)bounds {
   const bool resized = !CGSizeEqualToSize(bounds.size, _bounds.size);
-  _bounds = bounds;
+  change(_animations, &UIViewAnimations::bounds, _bounds, bounds);
   if (resized) [self setNeedsLayout];
+}
+
+- (void)setCenter:(CGPoint)center {
+  change(_animations, &UIViewAnimations::center, _center, center);
+}
+
+- (void)setTransform:(CGAffineTransform)transform {
+  change(_animations, &UIViewAnimations::transform, _transform, transform);
+}
+
+- (void)setAlpha:(CGFloat)alpha {
+  change(_animations, &UIViewAnimations::alpha, _alpha, alpha);
 }
 
 - (BOOL)clipsToBounds {
@@ -221,6 +268,7 @@
 
 - (UIView*)hitTest:(CGPoint)point withEvent:(id)event {
   if (_hidden || !_userInteractionEnabled || _alpha < 0.01) return nil;
+  if ([self _animationKeepsTouchesAway]) return nil;
   if (![self pointInside:point withEvent:event]) return nil;
   for (UIView* subview in [[self subviews] reverseObjectEnumerator]) {
     UIView* hit = [subview hitTest:[subview convertPoint:point fromView:self] withEvent:event];
@@ -231,21 +279,43 @@
 
 // Animation.
 
+- (BOOL)_animationKeepsTouchesAway {
+  return _animations && _animations->any([](const UIViewAnimation& animation) {
+    return !animation.takesTouches && !animation.isOver();
+  });
+}
+
+- (BOOL)_isMoving {
+  return _animations && _animations->any([](const UIViewAnimation& animation) {
+    return animation.hasBegun() && !animation.isOver();
+  });
+}
+
 + (void)animateWithDuration:(double)duration
                       delay:(double)delay
                     options:(NSUInteger)options
                  animations:(void (^)(void))animations
                  completion:(void (^)(BOOL finished))completion {
-  if (delay > 0) {
-    [UIDelayedBlock after:delay perform:animations];
-  } else {
+  const UIViewAnimation animation = {
+      .start = UIViewAnimation::now() + delay,
+      .duration = duration,
+      .takesTouches = (options & UIViewAnimationOptionAllowUserInteraction) != 0};
+  {
+    const AnimationBlock block(delay + duration > 0 ? &animation : nullptr);
     animations();
   }
-  if (!completion) return;
+  // Without a completion too: it wakes who waits to see the end.
   [UIDelayedBlock after:delay + duration
                 perform:^{
-                  completion(YES);
+                  if (completion) completion(YES);
                 }];
+}
+
+- (UIViewLook)_shownLook {
+  const UIViewLook look = {_center, _bounds, _transform, _alpha};
+  if (!_animations) return look;
+  return {_animations->center.shown(look.center), _animations->bounds.shown(look.bounds),
+          _animations->transform.shown(look.transform), _animations->alpha.shown(look.alpha)};
 }
 
 @end

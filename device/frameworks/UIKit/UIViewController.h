@@ -14,6 +14,7 @@
   UIViewController* _presentingViewController;
   UINavigationItem* _navigationItem;
   UITabBarItem* _tabBarItem;
+  NSArray* _toolbarItems;
   NSString* _title;
   BOOL _editing;
   BOOL _appeared;
@@ -34,6 +35,7 @@
 @property(nonatomic, copy) NSString* title;
 @property(nonatomic, readonly) UINavigationItem* navigationItem;
 @property(nonatomic, retain) UITabBarItem* tabBarItem;
+@property(nonatomic, copy) NSArray* toolbarItems;
 @property(nonatomic, getter=isEditing) BOOL editing;
 - (void)setEditing:(BOOL)editing animated:(BOOL)animated;
 

@@ -5,7 +5,7 @@
 #import "device/frameworks/UIKit/UIDevice.h"
 #import "device/frameworks/UIKit/UINavigationController.h"
 
-/// Lies between what is presented and what is behind it, and takes the touches for what is behind.
+/// Lies between what is presented and what is behind it, which it dims, and takes the touches for it.
 @interface UITransitionView : UIView
 @end
 
@@ -16,6 +16,7 @@
 
 @synthesize parentViewController = _parentViewController;
 @synthesize editing = _editing;
+@synthesize toolbarItems = _toolbarItems;
 
 - (void)dealloc {
   for (UIViewController* child in _childViewControllers) child->_parentViewController = nil;
@@ -27,6 +28,7 @@
   [_presentedViewController release];
   [_navigationItem release];
   [_tabBarItem release];
+  [_toolbarItems release];
   [_title release];
   [super dealloc];
 }
@@ -119,6 +121,12 @@
   _tabBarItem = [item retain];
 }
 
+- (void)setToolbarItems:(NSArray*)items {
+  [_toolbarItems autorelease];
+  _toolbarItems = [items copy];
+  [[[self navigationController] viewIfLoaded] setNeedsLayout];
+}
+
 - (void)setEditing:(BOOL)editing {
   [self setEditing:editing animated:NO];
 }
@@ -204,6 +212,7 @@
 
 - (void)_appearIn:(UIWindow*)window animated:(BOOL)animated {
   _presentationContainer = [[UITransitionView alloc] initWithFrame:[window bounds]];
+  [_presentationContainer setBackgroundColor:[UIColor colorWithWhite:0 alpha:0.4]];
   [self _willAppear:animated];
   [_presentationContainer addSubview:[self view]];
   [window addSubview:_presentationContainer];

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <set>
 #include <tuple>
@@ -141,7 +142,7 @@ class UIKit : public PlainPhone {
   }
   static void addAction(UIAlertController alert, std::string_view title, Style style = Style::standard,
                         Block<void(UIAlertAction)> handler = {}) {
-    alert.addAction(UIAlertAction::make(NSString::from(title), style, handler));
+    ask<"addAction:">(alert, UIAlertAction::make(NSString::from(title), style, handler));
   }
   static Titles notedOnceThereAre(std::size_t count) {
     soon([count] { return witnessed.calls.size() >= count; });
@@ -312,18 +313,71 @@ TEST_F(UIKit, AFingerMovesTheNearestRecognizerThatTakesIt) {
   EXPECT_EQ(noted(), Titles()) << "one tap of two";
 }
 
-TEST_F(UIKit, AnAnimationRunsAtItsTimeAndEndsOnce) {
-  const auto animate = [](double delay, const std::string& name) {
-    UIView::animate(
-        0.001, delay, block<void()>([name] { note(name); }),
-        block<void(bool)>([name](bool finished) { note(name + (finished ? " ended" : " broke off")); }));
+/// As the host's class method takes it.
+struct Animation {
+  double seconds;
+  double delay = 0;
+  NSUInteger options = 0;
+};
+constexpr double kForLong = 60;
+constexpr NSUInteger kAllowUserInteraction = 2;
+
+void animate(Animation how, std::function<void()> change) {
+  ask<"animateWithDuration:delay:options:animations:completion:">(
+      hostType<"UIView">(), how.seconds, how.delay, how.options, Block<void()>(block<void()>(change)),
+      Block<void(bool)>(block<void(bool)>([](bool ended) { note(ended ? "ended" : "broke off"); })));
+}
+
+TEST_F(UIKit, AnAnimationSetsValuesAtOnceAndShowsTheWayToThem) {
+  const UIView view = add({{0, 100}, {50, 20}}, screen(), "View");
+  const auto shownLeft = [&] {
+    const std::string line = me_.screen();
+    return std::stod(line.substr(line.find("\"View\" (") + 8));
   };
-  animate(0, "now");
-  animate(0.02, "later");
-  EXPECT_EQ(noted(), Titles{"now"}) << "neither the later one nor any end";
-  EXPECT_EQ(notedOnceThereAre(3), (Titles{"now ended", "later", "later ended"}));
-  animate(0, "last");
-  EXPECT_EQ(notedOnceThereAre(2), (Titles{"last", "last ended"})) << "no end comes twice";
+  animate({.seconds = 0.3}, [&] { view.setFrame({{100, 100}, {50, 20}}); });
+  EXPECT_EQ(view.frame().origin, (CGPoint{100, 100}));
+  std::vector<double> way;
+  while (witnessed.calls.empty()) {
+    way.push_back(shownLeft());
+    device::runUntil([] { return !witnessed.calls.empty(); }, std::chrono::milliseconds(10));
+  }
+  EXPECT_TRUE(std::ranges::is_sorted(way));
+  EXPECT_TRUE(std::ranges::any_of(way, [](double left) { return left > 0 && left < 100; }));
+  EXPECT_EQ(shownLeft(), 100);
+
+  animate({.seconds = 0.01}, [&] { view.setAlpha(0.5); });
+  EXPECT_EQ(notedOnceThereAre(2), (Titles{"ended", "ended"})) << "no end comes twice";
+
+  animate({.seconds = 1, .delay = kForLong}, [&] { view.setAlpha(0); });
+  EXPECT_EQ((ask<"alpha", double>(view)), 0);
+  EXPECT_TRUE(me_.sees("View")) << "before its delay is over";
+  animate({.seconds = 0.01}, [&] { view.setAlpha(0); });
+  EXPECT_TRUE(me_.sees("View")) << "it changes nothing";
+  animate({.seconds = kForLong}, [&] { view.setAlpha(1); });
+  EXPECT_TRUE(me_.sees("View")) << "from where it was shown";
+  animate({.seconds = 0.01}, [&] { view.setAlpha(0); });
+  me_.waitUntilGone("View");
+}
+
+TEST_F(UIKit, WhatIsAnimatedTakesTouchesOnlyWhereThatIsAllowed) {
+  const UIView parent = add({{0, 100}, {200, 200}});
+  const UIView button = addButton("Press", {{0, 0}, {50, 20}}, parent);
+  const auto tapped = [&] {
+    me_.tap("Press");
+    return noted();
+  };
+  animate({kForLong}, [&] { parent.setAlpha(0.5); });
+  EXPECT_EQ(tapped(), Titles());
+  animate({0.001, 0, kAllowUserInteraction}, [&] { parent.setAlpha(0.8); });
+  EXPECT_EQ(notedOnceThereAre(1), Titles{"ended"});
+  EXPECT_EQ(tapped(), Titles{"touched"}) << "a newer animation has taken its place";
+  animate({kForLong, kForLong, kAllowUserInteraction}, [&] { button.setCenter({30, 12}); });
+  EXPECT_EQ(tapped(), Titles{"touched"});
+  animate({0.001}, [&] { button.setAlpha(0.5); });
+  EXPECT_EQ(notedOnceThereAre(1), Titles{"ended"});
+  EXPECT_EQ(tapped(), Titles{"touched"}) << "it is over";
+  animate({kForLong}, [&] { button.setAlpha(0.5); });
+  EXPECT_EQ(tapped(), Titles{"touched"}) << "it changes nothing";
 }
 
 TEST_F(UIKit, WhoTakesTheScreenAndWhoLeavesItAreToldInOrder) {
@@ -408,6 +462,42 @@ TEST_F(UIKit, AnAlertReadsAsItWasMade) {
   EXPECT_FALSE(me_.sees("second")) << "a secure field hides it";
   const auto sheet = UIAlertController::make("Sheet", "", UIAlertController::Style::actionSheet);
   EXPECT_TRUE(raises([&] { sheet.addTextField({}); }));
+}
+
+TEST_F(UIKit, AnActionSheetOnAPadLiesBesideItsSource) {
+  ask<"_setUserInterfaceIdiom:">(UIDevice::currentDevice(), NSInteger{1});
+  const auto sheet = [] {
+    const auto made = UIAlertController::make("Sheet", "", UIAlertController::Style::actionSheet);
+    addAction(made, "Cancel", Style::cancel);
+    return made;
+  };
+  const auto panelOf = [&](UIAlertController made) {
+    root().present(made, true);
+    const CGRect panel = ask<"view", UIView>(made).frame();
+    me_.tap("Cancel");
+    return panel;
+  };
+  EXPECT_TRUE(raises([&] { root().present(sheet(), true); })) << "beside what?";
+  const UIView source = add({{0, 20}, {375, 792}});
+  for (const CGRect rect :
+       {CGRect{{0, 0}, {20, 20}}, CGRect{{350, 0}, {20, 20}}, CGRect{{150, 400}, {30, 40}},
+        CGRect{{0, 770}, {20, 20}}, CGRect{{350, 770}, {20, 20}}}) {
+    const UIAlertController made = sheet();
+    made.setPopoverSource(source);
+    ask<"setSourceRect:">(ask<"popoverPresentationController", Object>(made), rect);
+    const CGRect panel = panelOf(made);
+    const double top = rect.origin.y + 20, bottom = top + rect.size.height;
+    SCOPED_TRACE(rect.origin.x + 1000 * rect.origin.y);
+    EXPECT_TRUE(panel.origin.y == bottom || panel.origin.y + panel.size.height == top);
+    EXPECT_TRUE(panel.origin.x >= 0 && panel.origin.x + panel.size.width <= 375);
+    EXPECT_TRUE(panel.origin.y >= 0 && panel.origin.y + panel.size.height <= 812);
+  }
+  const UIAlertController made = sheet();
+  const auto item = makeObject<HostClass<"UIBarButtonItem">>();
+  ask<"setBarButtonItem:">(ask<"popoverPresentationController", Object>(made), Object(item.get()));
+  const CGRect panel = panelOf(made);
+  EXPECT_GT(panel.origin.x + panel.size.width, 350);
+  EXPECT_LT(panel.origin.y, 100);
 }
 
 TEST_F(UIKit, AnAlertLivesUntilAButtonDismissesItAndThenRunsItsHandlerOnce) {
