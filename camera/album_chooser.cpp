@@ -105,17 +105,8 @@ void choose(CameraBar bar, std::string title) {
   place(captionOn(bar), buttonOn(bar), kWideCaption);
 }
 
-UIAlertAction choosing(const Ref<CameraBar>& bar, std::string title) {
-  const NSString shown = NSString::from(title);
-  return UIAlertAction::make(shown, UIAlertAction::Style::standard,
-                             block<void(UIAlertAction)>([bar, title = std::move(title)](UIAlertAction) {
-                               choose(bar.get(), title);
-                             }));
-}
-
-UIAlertAction cancelling() {
-  return UIAlertAction::make(NSString::from("Cancel"), UIAlertAction::Style::cancel,
-                             Block<void(UIAlertAction)>());
+void offer(UIAlertController sheet, const Ref<CameraBar>& bar, const std::string& title) {
+  sheet.addAction(title, [bar, title] { choose(bar.get(), title); });
 }
 
 }  // namespace
@@ -135,15 +126,13 @@ void chooseAlbum(CameraBar bar) {
   const auto sheet = UIAlertController::make("Choose Album", "Choose the album to save the photo to.",
                                              UIAlertController::Style::actionSheet);
   const Ref<CameraBar> owner(bar);
-  sheet.addAction(choosing(owner, std::string(kCameraRoll)));
+  offer(sheet, owner, std::string(kCameraRoll));
   for (const auto album : PHAssetCollection::fetch(
            PHAssetCollection::Type::album, PHAssetCollection::Subtype::albumRegular, PHFetchOptions())) {
-    if (const NSString title = album.localizedTitle()) sheet.addAction(choosing(owner, title.utf8()));
+    if (const NSString title = album.localizedTitle()) offer(sheet, owner, title.utf8());
   }
-  sheet.addAction(cancelling());
-  sheet.addAction(UIAlertAction::make(
-      NSString::from("- Create new album -"), UIAlertAction::Style::standard,
-      block<void(UIAlertAction)>([owner](UIAlertAction) { createNewAlbum(owner.get()); })));
+  sheet.addCancelAction();
+  sheet.addAction("- Create new album -", [owner] { createNewAlbum(owner.get()); });
   const UIView button = buttonOn(bar);
   sheet.setPopoverSource(button ? button : bar);
   bar.viewControllerForAncestor().present(sheet, true);
@@ -154,14 +143,11 @@ void createNewAlbum(CameraBar bar) {
       UIAlertController::make("New Album", "Enter new album title", UIAlertController::Style::alert);
   alert.addTextField(
       block<void(UITextField)>([](UITextField field) { field.setPlaceholder(NSString::from("Title")); }));
-  // The field and not the alert: an action that keeps its own alert is never released.
-  const Ref<UITextField> field(alert.firstTextField());
-  alert.addAction(cancelling());
-  alert.addAction(UIAlertAction::make(NSString::from("Create"), UIAlertAction::Style::standard,
-                                      block<void(UIAlertAction)>([owner = Ref(bar), field](UIAlertAction) {
-                                        std::string title = field->text().utf8();
-                                        if (isAlbumTitle(title)) choose(owner.get(), std::move(title));
-                                      })));
+  alert.addCancelAction();
+  alert.addAction("Create", [owner = Ref(bar), field = Ref(alert.firstTextField())] {
+    std::string title = field->text().utf8();
+    if (isAlbumTitle(title)) choose(owner.get(), std::move(title));
+  });
   bar.viewControllerForAncestor().present(alert, true);
 }
 

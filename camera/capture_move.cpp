@@ -31,9 +31,7 @@ PHAssetCollection albumTitled(NSString title) {
 /// Without a photo or an album nothing is added.
 void add(const Ref<PHAsset>& photo, PHAssetCollection album) {
   if (!photo || !album) return;
-  const auto options = makeObject<PHFetchOptions>();
-  options->setIncludeHiddenAssets(true);
-  const Ref assets(PHAsset::fetchInAssetCollection(album, options.get()));
+  const Ref assets(PHAsset::fetchAllInAssetCollection(album));
   PHPhotoLibrary::sharedPhotoLibrary().performChanges(
       block<void()>([photo, assets, into = Ref(album)] {
         PHAssetCollectionChangeRequest::change(into.get(), assets.get()).addAssets(NSArray::of(photo.get()));

@@ -1,5 +1,8 @@
 #include "host/foundation.hpp"
 
+#include <iterator>
+#include <memory>
+
 #include "host/unicode.hpp"
 
 namespace velvault12 {
@@ -7,6 +10,16 @@ namespace velvault12 {
 namespace {
 
 constexpr NSUInteger kUtf8Encoding = 4;
+
+/// What a loop over a collection keeps between its steps: the host's structure, and after it the room that it
+/// may use. Not for the stack, which the phone's compiler would guard for the arrays' sake.
+struct FastEnumeration {
+  unsigned long state = 0;
+  id* items = nullptr;
+  unsigned long* mutations = nullptr;
+  unsigned long extra[5] = {};
+  id buffer[16] = {};
+};
 
 }  // namespace
 
@@ -57,6 +70,31 @@ std::optional<std::string> stringValue(Object value) {
   const auto string = value.as<NSString>();
   if (!string) return std::nullopt;
   return string.utf8();
+}
+
+NSNumber NSNumber::from(NSUInteger value) {
+  return sendToClass<"numberWithUnsignedInteger:", NSNumber(NSUInteger)>(hostClass(), value);
+}
+
+bool isNumber(NSString text) {
+  if (!text) return false;
+  const auto scanner = sendToClass<"scannerWithString:", Object(NSString)>(classNamed<"NSScanner">(), text);
+  float number = 0;
+  return scanner.send<"scanFloat:", bool(float*)>(&number) && scanner.send<"isAtEnd", bool()>();
+}
+
+Ref<NSArray> elementsOf(Object collection) {
+  const Ref<NSMutableArray> elements = makeObject<NSMutableArray>();
+  const auto walk = std::make_unique<FastEnumeration>();
+  const auto nextItems = [&] {
+    return collection
+        .trySend<"countByEnumeratingWithState:objects:count:", NSUInteger(FastEnumeration*, id*, NSUInteger)>(
+            walk.get(), walk->buffer, std::size(walk->buffer));
+  };
+  while (const NSUInteger count = nextItems()) {
+    for (NSUInteger i = 0; i < count; ++i) elements->addObject(Object(walk->items[i]));
+  }
+  return Ref<NSArray>(elements.get());
 }
 
 NSArray NSArray::from(const std::vector<std::string>& strings) {

@@ -9,6 +9,8 @@
 #include "host/reference.hpp"
 #include "host/runtime.hpp"
 
+extern "C" void NSLog(objc_object* format, ...);
+
 namespace velvault12 {
 
 using NSInteger = std::int64_t;
@@ -29,6 +31,10 @@ class NSString : public HostClass<"NSString"> {
   /// The whole of a file that holds UTF-8; empty when it is missing, unreadable or holds something else.
   static std::optional<std::string> contentsOfFile(std::string_view path);
 };
+
+/// Whether the text is one number and nothing else, white space around it aside, as the host's scanner reads
+/// numbers: "12" and "1.5e3" are, "12 photos", "1,234" and "" are not.
+bool isNumber(NSString text);
 
 /// Goes through a list of the host by index; the list must not change meanwhile.
 template <class List>
@@ -52,6 +58,7 @@ class NSNumber : public HostClass<"NSNumber"> {
   using HostClass::HostClass;
   static NSNumber from(int value);
   static NSNumber from(bool value);
+  static NSNumber from(NSUInteger value);
 };
 
 /// What a value that came from a file or a message says as a number or a switch; nothing when it is no value
@@ -67,6 +74,7 @@ class NSArray : public HostClass<"NSArray"> {
   NSUInteger count() const { return send<"count", NSUInteger()>(); }
   /// The index is below `count`.
   Object objectAtIndex(NSUInteger index) const { return send<"objectAtIndex:", Object(NSUInteger)>(index); }
+  bool containsObject(Object object) const { return send<"containsObject:", bool(Object)>(object); }
   ListIterator<NSArray> begin() const { return {*this, 0}; }
   ListIterator<NSArray> end() const { return {*this, count()}; }
   bool writeToFile(NSString path, bool atomically) const {
@@ -90,6 +98,10 @@ class NSMutableArray : public HostClass<"NSMutableArray", NSArray> {
     if (object) send<"addObject:", void(Object)>(object);
   }
 };
+
+/// What a collection of the host holds, of whatever class that walks it: an array, a set, a fetch result.
+/// Empty for nil and for what is no collection.
+Ref<NSArray> elementsOf(Object collection);
 
 class NSDictionary : public HostClass<"NSDictionary"> {
  public:
@@ -142,6 +154,8 @@ class NSFileManager : public HostClass<"NSFileManager"> {
 class NSIndexPath : public HostClass<"NSIndexPath"> {
  public:
   using HostClass::HostClass;
+  NSInteger section() const { return send<"section", NSInteger()>(); }
+  NSInteger item() const { return send<"item", NSInteger()>(); }
 };
 
 class NSPredicate : public HostClass<"NSPredicate"> {
@@ -163,6 +177,13 @@ class NSThread : public HostClass<"NSThread"> {
   using HostClass::HostClass;
   static bool isMainThread() { return sendToClass<"isMainThread", bool()>(hostClass()); }
 };
+
+/// Writes a line to the system's log. The format's arguments are as C passes them: an object for "%@", its
+/// `id` for "%p", an int for "%d".
+template <class... Arguments>
+void log(std::string_view format, Arguments... arguments) {
+  NSLog(NSString::from(format).get(), arguments...);
+}
 
 class NSTimer : public HostClass<"NSTimer"> {
  public:

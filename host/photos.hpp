@@ -36,24 +36,54 @@ class PHFetchResult : public HostClass<"PHFetchResult"> {
   ListIterator<PHFetchResult> end() const { return {*this, count()}; }
 };
 
+class PHCollectionList;
+
 /// An album, a smart album or a folder.
 class PHCollection : public HostClass<"PHCollection"> {
  public:
   using HostClass::HostClass;
   /// As shown; may be nil.
   NSString localizedTitle() const { return send<"localizedTitle", NSString()>(); }
-  /// Whether assets may be put into it: asking for a change of another one raises.
-  bool allowsAddingAssets() const {
-    constexpr NSInteger kAddContent = 3;
-    return send<"canPerformEditOperation:", bool(NSInteger)>(kAddContent);
+  /// Whether assets may be put into it, or taken out: asking for a change of another one raises.
+  bool allowsAddingAssets() const { return allows(EditOperation::addContent); }
+  bool allowsRemovingAssets() const { return allows(EditOperation::removeContent); }
+  /// The albums and folders in the folder.
+  static PHFetchResult<PHCollection> fetchInFolder(PHCollectionList folder);
+
+ private:
+  enum class EditOperation : NSInteger { removeContent = 2, addContent = 3 };
+  bool allows(EditOperation operation) const {
+    return send<"canPerformEditOperation:", bool(EditOperation)>(operation);
   }
 };
+
+class PHAsset;
+
+/// A folder.
+class PHCollectionList : public HostClass<"PHCollectionList", PHCollection> {
+ public:
+  using HostClass::HostClass;
+};
+
+inline PHFetchResult<PHCollection> PHCollection::fetchInFolder(PHCollectionList folder) {
+  return sendToClass<"fetchCollectionsInCollectionList:options:",
+                     PHFetchResult<PHCollection>(PHCollectionList, PHFetchOptions)>(hostClass(), folder,
+                                                                                    PHFetchOptions());
+}
 
 class PHAssetCollection : public HostClass<"PHAssetCollection", PHCollection> {
  public:
   using HostClass::HostClass;
   enum class Type : NSInteger { album = 1, smartAlbum = 2, moment = 3 };
-  enum class Subtype : NSInteger { albumRegular = 2, any = std::numeric_limits<NSInteger>::max() };
+  enum class Subtype : NSInteger {
+    albumRegular = 2,
+    allHidden = 205,
+    userLibrary = 209,
+    any = std::numeric_limits<NSInteger>::max()
+  };
+
+  Type type() const { return send<"assetCollectionType", Type()>(); }
+  Subtype subtype() const { return send<"assetCollectionSubtype", Subtype()>(); }
 
   static PHFetchResult<PHAssetCollection> fetch(Type type, Subtype subtype, PHFetchOptions options) {
     return sendToClass<"fetchAssetCollectionsWithType:subtype:options:",
@@ -65,6 +95,8 @@ class PHAssetCollection : public HostClass<"PHAssetCollection", PHCollection> {
                        PHFetchResult<PHAssetCollection>(NSArray, PHFetchOptions)>(hostClass(), identifiers,
                                                                                   PHFetchOptions());
   }
+  /// The albums of that type which hold the asset, never a smart album.
+  static PHFetchResult<PHAssetCollection> fetchContaining(PHAsset asset, Type type);
   /// The user's albums that bear exactly this title, those among them that a computer keeps on the phone.
   static PHFetchResult<PHAssetCollection> userAlbums(NSString title) {
     const auto options = makeObject<PHFetchOptions>();
@@ -88,7 +120,19 @@ class PHAsset : public HostClass<"PHAsset"> {
                        PHFetchResult<PHAsset>(PHAssetCollection, PHFetchOptions)>(hostClass(), collection,
                                                                                   options);
   }
+  /// All that the collection holds, hidden assets as well.
+  static PHFetchResult<PHAsset> fetchAllInAssetCollection(PHAssetCollection collection) {
+    const auto options = makeObject<PHFetchOptions>();
+    options->setIncludeHiddenAssets(true);
+    return fetchInAssetCollection(collection, options.get());
+  }
 };
+
+inline PHFetchResult<PHAssetCollection> PHAssetCollection::fetchContaining(PHAsset asset, Type type) {
+  return sendToClass<"fetchAssetCollectionsContainingAsset:withType:options:",
+                     PHFetchResult<PHAssetCollection>(PHAsset, Type, PHFetchOptions)>(hostClass(), asset,
+                                                                                      type, PHFetchOptions());
+}
 
 /// To be made within a change of the photo library only; elsewhere it raises.
 class PHAssetCollectionChangeRequest : public HostClass<"PHAssetCollectionChangeRequest"> {
@@ -109,6 +153,7 @@ class PHAssetCollectionChangeRequest : public HostClass<"PHAssetCollectionChange
     return send<"placeholderForCreatedAssetCollection", Object()>().send<"localIdentifier", NSString()>();
   }
   void addAssets(NSArray assets) const { send<"addAssets:", void(NSArray)>(assets); }
+  void removeAssets(NSArray assets) const { send<"removeAssets:", void(NSArray)>(assets); }
 };
 
 class PHPhotoLibrary : public HostClass<"PHPhotoLibrary"> {

@@ -13,20 +13,28 @@ class PUAssetHidingHelper : public HostClass<"PUAssetHidingHelper"> {
  public:
   using HostClass::HostClass;
   /// Hides the assets from the library or shows them again, as the host's own menu does. Nothing waits for
-  /// it, and in a process without the class it does nothing.
-  static void apply(bool hidden, NSArray assets) {
+  /// it: the completion, which may be none, runs on any thread. What the host hands to it is not known, so
+  /// that it takes nothing. In a process without the class nothing happens.
+  static void apply(bool hidden, NSArray assets, Block<void()> completion = Block<void()>()) {
     const auto helper = makeObject<PUAssetHidingHelper>();
     helper->trySend<"setAssets:", void(NSArray)>(assets);
-    helper->trySend<"applyHiddenState:completionHandler:", void(bool, Block<void()>)>(hidden,
-                                                                                      Block<void()>());
+    helper->trySend<"applyHiddenState:completionHandler:", void(bool, Block<void()>)>(hidden, completion);
   }
 };
 
-/// An album's tile: its title, its subtitle and a stack of key photos.
+/// An album's tile: its title, its subtitle and a stack of key photos. Tiles are used again for other albums.
 class PUAlbumListCellContentView : public HostClass<"PUAlbumListCellContentView", UIView> {
  public:
   using HostClass::HostClass;
   NSString title() const { return trySend<"title", NSString()>(); }
+  NSString subtitle() const { return trySend<"subtitle", NSString()>(); }
+  void setSubtitle(NSString subtitle) const { trySend<"setSubtitle:", void(NSString)>(subtitle); }
+  UIView stackView() const { return trySend<"stackView", UIView()>(); }
+  /// Nil outside of editing, and on tiles that cannot be deleted.
+  UIView deleteButton() const { return trySend<"_deleteButton", UIView()>(); }
+  /// Nil where a label is used instead.
+  UITextField titleTextField() const { return trySend<"_titleTextField", UITextField()>(); }
+  UILabel subtitleLabel() const { return trySend<"_subtitleLabel", UILabel()>(); }
 };
 
 /// What a collection view's cell, or a gadget of the strip, shows of an album; nil when it shows something
@@ -61,12 +69,78 @@ class PUAlbumListViewController : public HostClass<"PUAlbumListViewController", 
   PHCollection collectionAtIndexPath(NSIndexPath path) const {
     return trySend<"collectionAtIndexPath:", PHCollection(NSIndexPath)>(path);
   }
+  /// What the tile shows; nil for one that the list does not show.
+  PHCollection collectionOf(PUAlbumListCellContentView tile) const {
+    const auto path =
+        trySend<"indexPathForAlbumListCellContentView:", NSIndexPath(PUAlbumListCellContentView)>(tile);
+    return path ? collectionAtIndexPath(path) : PHCollection();
+  }
+  /// Whether there is no album at that place yet, but one can be made.
+  bool isPlaceholderAtIndexPath(NSIndexPath path) const {
+    return trySend<"isPlaceholderAtIndexPath:", bool(NSIndexPath)>(path);
+  }
+  UICollectionView collectionView() const { return trySend<"collectionView", UICollectionView()>(); }
+  /// The line above the albums while photos are being picked into one of them; otherwise nil.
+  UIView pickerBannerView() const { return trySend<"_pickerBannerView", UIView()>(); }
+  /// What its "Done" does.
+  void done() const { trySend<"_handleDoneButton:", void(Object)>(Object()); }
   void select(NSIndexPath path) const { trySend<"didSelectItemAtIndexPath:", void(NSIndexPath)>(path); }
   void performDelete(PUAlbumListCellContentView tile, Object action) const {
     trySend<"albumListCellContentView:performDeleteAction:", void(PUAlbumListCellContentView, Object)>(
         tile, action);
   }
 };
+
+/// Deletes photos, once its user has agreed.
+class PUDeletePhotosActionController : public HostClass<"PUDeletePhotosActionController"> {
+ public:
+  using HostClass::HostClass;
+};
+
+/// A grid of photos, some of which may be selected.
+class PUPhotosGridViewController : public HostClass<"PUPhotosGridViewController", UIViewController> {
+ public:
+  using HostClass::HostClass;
+};
+
+/// The grid of one album.
+class PUPhotosAlbumViewController
+    : public HostClass<"PUPhotosAlbumViewController", PUPhotosGridViewController> {
+ public:
+  using HostClass::HostClass;
+  PHAssetCollection assetCollection() const { return trySend<"assetCollection", PHAssetCollection()>(); }
+};
+
+/// The grid of the whole library.
+class PUZoomableGridViewController
+    : public HostClass<"PUZoomableGridViewController", PUPhotosGridViewController> {
+ public:
+  using HostClass::HostClass;
+};
+
+/// What shows photos from iOS 14 on, within a view controller.
+class PXPhotosContentController : public HostClass<"PXPhotosContentController"> {
+ public:
+  using HostClass::HostClass;
+};
+
+/// The whole library from iOS 13 on.
+class PXCuratedLibraryUIViewController
+    : public HostClass<"PXCuratedLibraryUIViewController", UIViewController> {
+ public:
+  using HostClass::HostClass;
+};
+
+/// What is selected in any of these four, each asked by the way that it knows; empty for nil.
+inline Ref<NSArray> selectedPhotos(Object controller) {
+  if (controller.responds<"selectedAssets">())
+    return elementsOf(controller.send<"selectedAssets", Object()>());
+  const Object provider = controller.trySend<"viewProvider", Object()>();
+  const Object viewModel = (provider ? provider : controller).trySend<"viewModel", Object()>();
+  const Object manager = viewModel.trySend<"selectionManager", Object()>();
+  const Object snapshot = manager.trySend<"selectionSnapshot", Object()>();
+  return elementsOf(snapshot.trySend<"fetchSelectedObjects", Object()>());
+}
 
 class PUTabbedLibraryViewController : public HostClass<"PUTabbedLibraryViewController", UIViewController> {
  public:

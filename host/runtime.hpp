@@ -14,6 +14,7 @@ struct objc_object;
 struct objc_class;
 struct objc_selector;
 struct objc_method;
+struct objc_ivar;
 }
 
 namespace velvault12 {
@@ -40,6 +41,9 @@ Class objc_allocateClassPair(Class superclass, const char* name, std::size_t ext
 ObjcBool class_addIvar(Class type, const char* name, std::size_t size, std::uint8_t alignment,
                        const char* encoding);
 void objc_registerClassPair(Class type);
+objc_ivar* class_getInstanceVariable(Class type, const char* name);
+id object_getIvar(id object, objc_ivar* variable);
+void object_setIvar(id object, objc_ivar* variable, id value);
 #if defined(__APPLE__)
 Class object_getClass(id object);
 void objc_msgSend();
@@ -189,6 +193,17 @@ class Object {
     return isKindOf(View::hostClass()) ? View(object_) : View();
   }
 
+  /// What an instance variable of that name holds, one declared by `ClassPair::variable`: a new object has
+  /// nil there. Nothing is retained.
+  template <Name Variable>
+  Object variable() const {
+    return Object(object_ == nullptr ? nullptr : object_getIvar(object_, variableNamed<Variable>()));
+  }
+  template <Name Variable>
+  void setVariable(Object value) const {
+    if (object_ != nullptr) object_setIvar(object_, variableNamed<Variable>(), value.get());
+  }
+
   /// The name of the object's class, "" for nil.
   const char* className() const {
     const Class type = send<"class", Class()>();
@@ -196,6 +211,11 @@ class Object {
   }
 
  private:
+  template <Name Variable>
+  objc_ivar* variableNamed() const {
+    return class_getInstanceVariable(object_getClass(object_), Variable.text);
+  }
+
   id object_ = nullptr;
 };
 

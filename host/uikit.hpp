@@ -51,6 +51,8 @@ class UIGestureRecognizer : public HostClass<"UIGestureRecognizer"> {
   enum class State : NSInteger { possible = 0, began = 1, changed = 2, ended = 3, cancelled = 4, failed = 5 };
 
   State state() const { return send<"state", State()>(); }
+  /// Not retained.
+  void setDelegate(Object delegate) const { send<"setDelegate:", void(Object)>(delegate); }
   inline UIView view() const;
 };
 
@@ -60,10 +62,13 @@ Ref<Recognizer> makeRecognizer(Object target, SEL action) {
   return makeObject<Recognizer, "initWithTarget:action:">(target, action);
 }
 
-/// Of one finger's single tap.
+/// Of one finger's single tap, unless told otherwise.
 class UITapGestureRecognizer : public HostClass<"UITapGestureRecognizer", UIGestureRecognizer> {
  public:
   using HostClass::HostClass;
+  void setNumberOfTapsRequired(NSUInteger count) const {
+    send<"setNumberOfTapsRequired:", void(NSUInteger)>(count);
+  }
 };
 
 class UILongPressGestureRecognizer : public HostClass<"UILongPressGestureRecognizer", UIGestureRecognizer> {
@@ -89,15 +94,26 @@ class UIView : public HostClass<"UIView"> {
     send<"setTransform:", void(CGAffineTransform)>(transform);
   }
   void setAlpha(double alpha) const { send<"setAlpha:", void(double)>(alpha); }
+  void setHidden(bool hidden) const { send<"setHidden:", void(bool)>(hidden); }
   void setBackgroundColor(UIColor color) const { send<"setBackgroundColor:", void(UIColor)>(color); }
   void setClipsToBounds(bool clips) const { send<"setClipsToBounds:", void(bool)>(clips); }
   void setUserInteractionEnabled(bool enabled) const {
     send<"setUserInteractionEnabled:", void(bool)>(enabled);
   }
+  void setAutoresizesSubviews(bool autoresizes) const {
+    send<"setAutoresizesSubviews:", void(bool)>(autoresizes);
+  }
   void setTag(NSInteger tag) const { send<"setTag:", void(NSInteger)>(tag); }
+  NSInteger tag() const { return send<"tag", NSInteger()>(); }
   /// The receiver or the first of its descendants with that tag.
   UIView viewWithTag(NSInteger tag) const { return send<"viewWithTag:", UIView(NSInteger)>(tag); }
+  /// The first of its own subviews of that kind with that tag: what lies further down belongs to somebody
+  /// else, who has tags as well.
+  template <class View>
+  View subviewWithTag(NSInteger tag) const;
   void addSubview(UIView view) const { send<"addSubview:", void(UIView)>(view); }
+  /// Does nothing for a view that is no subview of it.
+  void bringSubviewToFront(UIView view) const { send<"bringSubviewToFront:", void(UIView)>(view); }
   UIView superview() const { return send<"superview", UIView()>(); }
   /// A copy.
   NSArray subviews() const { return send<"subviews", NSArray()>(); }
@@ -119,6 +135,15 @@ class UIView : public HostClass<"UIView"> {
         hostClass(), duration, delay, kAllowUserInteraction, animations, completion);
   }
 };
+
+template <class View>
+View UIView::subviewWithTag(NSInteger tag) const {
+  for (const Object subview : subviews()) {
+    const auto view = subview.as<View>();
+    if (view && view.tag() == tag) return view;
+  }
+  return {};
+}
 
 inline UIView UIGestureRecognizer::view() const { return send<"view", UIView()>(); }
 
@@ -159,6 +184,11 @@ class UIImage : public HostClass<"UIImage"> {
   static Ref<UIImage> contentsOfFile(std::string_view path) {
     return makeObject<UIImage, "initWithContentsOfFile:">(NSString::from(path));
   }
+  /// In its own colours also where the host would tint it, as in bars. Autoreleased.
+  UIImage alwaysOriginal() const {
+    constexpr NSInteger kAlwaysOriginal = 1;
+    return send<"imageWithRenderingMode:", UIImage(NSInteger)>(kAlwaysOriginal);
+  }
 };
 
 class UIImageView : public HostClass<"UIImageView", UIView> {
@@ -168,10 +198,29 @@ class UIImageView : public HostClass<"UIImageView", UIView> {
   static Ref<UIImageView> make(UIImage image) { return makeObject<UIImageView, "initWithImage:">(image); }
 };
 
+class UIBlurEffect : public HostClass<"UIBlurEffect"> {
+ public:
+  using HostClass::HostClass;
+  static UIBlurEffect dark() {
+    constexpr NSInteger kDark = 2;
+    return sendToClass<"effectWithStyle:", UIBlurEffect(NSInteger)>(hostClass(), kDark);
+  }
+};
+
+/// Shows what is behind it through an effect.
+class UIVisualEffectView : public HostClass<"UIVisualEffectView", UIView> {
+ public:
+  using HostClass::HostClass;
+  static Ref<UIVisualEffectView> make(UIBlurEffect effect) {
+    return makeObject<UIVisualEffectView, "initWithEffect:">(effect);
+  }
+};
+
 class UITextField : public HostClass<"UITextField", UIView> {
  public:
   using HostClass::HostClass;
   NSString text() const { return send<"text", NSString()>(); }
+  void setFont(UIFont font) const { send<"setFont:", void(UIFont)>(font); }
   void setPlaceholder(NSString text) const { send<"setPlaceholder:", void(NSString)>(text); }
   void setSecureTextEntry(bool secure) const { send<"setSecureTextEntry:", void(bool)>(secure); }
 };
@@ -179,12 +228,51 @@ class UITextField : public HostClass<"UITextField", UIView> {
 class UICollectionViewCell : public HostClass<"UICollectionViewCell", UIView> {
  public:
   using HostClass::HostClass;
+  UIView contentView() const { return send<"contentView", UIView()>(); }
 };
 
 class UICollectionView : public HostClass<"UICollectionView", UIView> {
  public:
   using HostClass::HostClass;
+  /// Whether there is an item at that place: a path that was good before the view was loaded anew may lead to
+  /// none.
+  bool hasItemAtIndexPath(NSIndexPath path) const {
+    return path.section() < send<"numberOfSections", NSInteger()>() &&
+           path.item() < send<"numberOfItemsInSection:", NSInteger(NSInteger)>(path.section());
+  }
+  /// Nil for one that is out of sight.
+  UICollectionViewCell cellForItemAtIndexPath(NSIndexPath path) const {
+    return send<"cellForItemAtIndexPath:", UICollectionViewCell(NSIndexPath)>(path);
+  }
 };
+
+/// A button in a bar. Its target is not retained.
+class UIBarButtonItem : public HostClass<"UIBarButtonItem"> {
+ public:
+  using HostClass::HostClass;
+  static Ref<UIBarButtonItem> withImage(UIImage image, Object target, SEL action) {
+    constexpr NSInteger kPlain = 0;
+    return makeObject<UIBarButtonItem, "initWithImage:style:target:action:">(image, kPlain, target, action);
+  }
+  /// With the system's own picture of a camera.
+  static Ref<UIBarButtonItem> camera(Object target, SEL action) {
+    constexpr NSInteger kCamera = 15;
+    return makeObject<UIBarButtonItem, "initWithBarButtonSystemItem:target:action:">(kCamera, target, action);
+  }
+  void setTag(NSInteger tag) const { send<"setTag:", void(NSInteger)>(tag); }
+  NSInteger tag() const { return send<"tag", NSInteger()>(); }
+};
+
+/// What a navigation bar shows for a controller.
+class UINavigationItem : public HostClass<"UINavigationItem"> {
+ public:
+  using HostClass::HostClass;
+  /// The outermost first; nil without any.
+  NSArray rightBarButtonItems() const { return send<"rightBarButtonItems", NSArray()>(); }
+  void setRightBarButtonItems(NSArray items) const { send<"setRightBarButtonItems:", void(NSArray)>(items); }
+};
+
+class UINavigationController;
 
 class UIViewController : public HostClass<"UIViewController"> {
  public:
@@ -192,6 +280,15 @@ class UIViewController : public HostClass<"UIViewController"> {
   void present(UIViewController controller, bool animated) const {
     send<"presentViewController:animated:completion:", void(UIViewController, bool, Block<void()>)>(
         controller, animated, Block<void()>());
+  }
+  /// Made by `loadView` at first use.
+  UIView view() const { return send<"view", UIView()>(); }
+  UINavigationItem navigationItem() const { return send<"navigationItem", UINavigationItem()>(); }
+  /// The one that it lies in, nil without.
+  inline UINavigationController navigationController() const;
+  bool isEditing() const { return send<"isEditing", bool()>(); }
+  void setEditing(bool editing, bool animated) const {
+    send<"setEditing:animated:", void(bool, bool)>(editing, animated);
   }
 };
 
@@ -204,6 +301,10 @@ class UINavigationController : public HostClass<"UINavigationController", UIView
   using HostClass::HostClass;
   void popToRoot(bool animated) const { send<"popToRootViewControllerAnimated:", NSArray(bool)>(animated); }
 };
+
+inline UINavigationController UIViewController::navigationController() const {
+  return send<"navigationController", UINavigationController()>();
+}
 
 class UIAlertAction : public HostClass<"UIAlertAction"> {
  public:
@@ -227,8 +328,22 @@ class UIAlertController : public HostClass<"UIAlertController", UIViewController
                        UIAlertController(NSString, NSString, Style)>(hostClass(), NSString::from(title),
                                                                      NSString::from(message), style);
   }
-  /// One cancel action at most; a second raises.
-  void addAction(UIAlertAction action) const { send<"addAction:", void(UIAlertAction)>(action); }
+  /// A button, and what it does once the alert is gone. What the callable captured is kept until then: never
+  /// the alert itself, which would never be released.
+  template <class Callable>
+  void addAction(NSString title, Callable onTap) const {
+    add(UIAlertAction::make(
+        title, UIAlertAction::Style::standard,
+        block<void(UIAlertAction)>([onTap = std::move(onTap)](UIAlertAction) { onTap(); })));
+  }
+  template <class Callable>
+  void addAction(std::string_view title, Callable onTap) const {
+    addAction(NSString::from(title), std::move(onTap));
+  }
+  /// A button that does nothing else. One at most; a second raises.
+  void addCancelAction(NSString title = NSString::from("Cancel")) const {
+    add(UIAlertAction::make(title, UIAlertAction::Style::cancel, Block<void(UIAlertAction)>()));
+  }
   /// Alerts only, not action sheets.
   void addTextField(Block<void(UITextField)> configure) const {
     send<"addTextFieldWithConfigurationHandler:", void(Block<void(UITextField)>)>(configure);
@@ -236,14 +351,28 @@ class UIAlertController : public HostClass<"UIAlertController", UIViewController
   /// Where an action sheet's popover points to. A pad raises when the sheet is presented without; elsewhere
   /// it does nothing.
   void setPopoverSource(UIView view) const {
-    const auto popover = send<"popoverPresentationController", Object()>();
-    popover.send<"setSourceView:", void(UIView)>(view);
-    popover.send<"setSourceRect:", void(CGRect)>(view.bounds());
+    popover().send<"setSourceView:", void(UIView)>(view);
+    popover().send<"setSourceRect:", void(CGRect)>(view.bounds());
+  }
+  void setPopoverSource(UIBarButtonItem item) const {
+    popover().send<"setBarButtonItem:", void(UIBarButtonItem)>(item);
   }
   UITextField firstTextField() const {
     const auto fields = send<"textFields", NSArray()>();
     return fields.count() == 0 ? UITextField() : fields.objectAtIndex(0).as<UITextField>();
   }
+
+ private:
+  Object popover() const { return send<"popoverPresentationController", Object()>(); }
+  void add(UIAlertAction action) const { send<"addAction:", void(UIAlertAction)>(action); }
+};
+
+class UIScreen : public HostClass<"UIScreen"> {
+ public:
+  using HostClass::HostClass;
+  static UIScreen mainScreen() { return sendToClass<"mainScreen", UIScreen()>(hostClass()); }
+  /// In points.
+  CGRect bounds() const { return send<"bounds", CGRect()>(); }
 };
 
 /// Private, and nil on a phone without the hardware.
@@ -265,6 +394,11 @@ class UIDevice : public HostClass<"UIDevice"> {
   /// `UIDeviceOrientation`: 0 while it is not known.
   NSInteger orientation() const { return send<"orientation", NSInteger()>(); }
   _UITapticEngine tapticEngine() const { return trySend<"_tapticEngine", _UITapticEngine()>(); }
+  /// The tick that tells of a lock set or removed, on a phone with the hardware.
+  void tick() const {
+    constexpr NSInteger kTick = 1001;
+    tapticEngine().actuateFeedback(kTick);
+  }
 };
 
 class UIApplication : public HostClass<"UIApplication"> {

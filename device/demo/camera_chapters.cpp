@@ -15,20 +15,6 @@ constexpr std::string_view kCaptureAlbum = "/var/mobile/Library/velvault/album.t
 constexpr std::string_view kAlbumButton = "album";
 constexpr std::string_view kParty = "Party";
 
-/// What the photo library holds under that title; nothing as long as there is no such album.
-std::vector<AssetRow> inAlbum(const Phone& phone, std::string_view title) {
-  const PhotoDatabase library = phone.device().photoLibrary();
-  const std::vector<CollectionRow> albums = library.allAlbums();
-  const auto album = std::ranges::find(albums, title, &CollectionRow::title);
-  return album == albums.end() ? std::vector<AssetRow>() : library.assetsInAlbum(album->identifier);
-}
-
-std::vector<AssetRow> inCameraRoll(const Phone& phone) {
-  std::vector<AssetRow> assets = phone.device().photoLibrary().allAssets();
-  std::erase_if(assets, [](const AssetRow& asset) { return asset.isHidden; });
-  return assets;
-}
-
 bool isVideo(const AssetRow& asset) { return asset.mediaType == MediaType::video; }
 
 std::string captionIs(const Phone& phone, std::string_view title) {
@@ -39,11 +25,11 @@ std::string captionIs(const Phone& phone, std::string_view title) {
 void waitForPhotosInParty(const Phone& phone, std::size_t inParty, std::size_t inRoll) {
   phone.waitUntil(
       std::to_string(inParty) + " photos in the album, " + std::to_string(inRoll) + " outside",
-      [&] { return inAlbum(phone, kParty).size() == inParty && inCameraRoll(phone).size() == inRoll; });
+      [&] { return phone.inAlbum(kParty).size() == inParty && phone.inCameraRoll().size() == inRoll; });
 }
 
 void chooseAndCapture(Story& story, Phone& phone) {
-  const std::size_t before = inCameraRoll(phone).size();
+  const std::size_t before = phone.inCameraRoll().size();
   story.chapter("Captures that go straight into an album");
   story.step("You open the Camera.", [&] {
     phone.open(kCamera).waitToSee(kAlbumButton);
@@ -61,7 +47,7 @@ void chooseAndCapture(Story& story, Phone& phone) {
     camera.alert().type(kParty).tap("Create");
     const std::string caption = captionIs(phone, kParty);
     const std::string saved = phone.onceHolds(kCaptureAlbum, {std::string(kParty)});
-    expect(inAlbum(phone, kParty).empty(), "no album yet");
+    expect(phone.inAlbum(kParty).empty(), "no album yet");
     return caption + "; " + saved;
   });
   story.step("You take a picture, and another.", [&] {
@@ -77,8 +63,8 @@ void chooseAndCapture(Story& story, Phone& phone) {
     camera.tap("Record Video");
     // One more, the film, and one less.
     waitForPhotosInParty(phone, 3, before);
-    expect(std::ranges::none_of(inAlbum(phone, kParty), isVideo), "no film in the album");
-    expect(std::ranges::count_if(inCameraRoll(phone), isVideo) == 1, "the film is in the camera roll");
+    expect(std::ranges::none_of(phone.inAlbum(kParty), isVideo), "no film in the album");
+    expect(std::ranges::count_if(phone.inCameraRoll(), isVideo) == 1, "the film is in the camera roll");
     return std::string(
         "the film stays in the camera roll; whatever is captured, it is the newest photo there that\n"
         "is moved, and that was one of \"Recipes\"");
@@ -99,7 +85,7 @@ void startAgain(Story& story, Phone& phone) {
 }
 
 void captureWhileAnotherAppReads(Story& story, Phone& phone) {
-  const std::size_t before = inCameraRoll(phone).size();
+  const std::size_t before = phone.inCameraRoll().size();
   story.chapter("While another app reads the library");
   story.step("You take a picture, to be copied, while another app looks again and again.", [&] {
     phone.changeSettings({{"rememberDefault", true}, {"pickerMovePhotos", false}});
@@ -109,7 +95,7 @@ void captureWhileAnotherAppReads(Story& story, Phone& phone) {
       gallery.tap("Refresh");
       return gallery.sees("Party: 1 photos");
     });
-    expect(inCameraRoll(phone).size() == before + 1, "the photo is in the camera roll as well");
+    expect(phone.inCameraRoll().size() == before + 1, "the photo is in the camera roll as well");
     for (const std::string_view row : {"Holidays: 3 photos", "Pets: 3 photos", "Recipes: 2 photos"}) {
       expect(gallery.sees(row), row);
     }

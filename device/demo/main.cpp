@@ -5,7 +5,9 @@
 
 #include "device/demo/album_lock_chapters.hpp"
 #include "device/demo/camera_chapters.hpp"
+#include "device/demo/page.hpp"
 #include "device/demo/phone.hpp"
+#include "device/demo/photo_chapters.hpp"
 #include "device/demo/story.hpp"
 #include "device/system/process.hpp"
 
@@ -33,13 +35,16 @@ bool bootAndLook(Story& story, Phone& phone) {
 
 int play(const std::filesystem::path& folder) {
   Phone phone(folder, VELVAULT12_LIBRARY, VELVAULT12_FILTER, VELVAULT12_IMAGES);
-  Story story;
+  Story story([&phone] { return phone.picture(); });
   if (bootAndLook(story, phone)) {
     tellAlbumLock(story, phone);
     tellCamera(story, phone);
+    tellPhotos(story, phone);
   }
   std::printf("\n%d of %d steps went as told. The phone's disk is left in %s.\n",
               story.steps() - story.failures(), story.steps(), folder.c_str());
+  std::printf("The whole story with pictures of the phone: %s\n",
+              writePage(folder, "A story on a simulated iPhone", story.chapters()).c_str());
   return story.failures() == 0 ? 0 : 1;
 }
 
@@ -50,7 +55,7 @@ int main(int count, char** arguments) {
   try {
     return device::play(count > 1 ? arguments[1] : DEMO_FOLDER);
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "The phone did not start: %s\n", error.what());
+    std::fprintf(stderr, "The story broke off: %s\n", error.what());
     return 1;
   }
 }

@@ -1,8 +1,11 @@
 #include "device/demo/phone.hpp"
 
+#include <algorithm>
 #include <chrono>
+#include <stdexcept>
 
 #include "device/demo/story.hpp"
+#include "device/system/process.hpp"
 
 namespace device {
 namespace {
@@ -11,14 +14,14 @@ constexpr std::string_view kReloadNotification = "com.qdx.velvault12prefs/reload
 
 void fillLibrary(PhotoDatabase library) {
   constexpr double kDay = 86'400;
-  constexpr std::uint32_t kColors[] = {0x3A86FF, 0x8338EC, 0xFF006E, 0xFB5607, 0xFFBE0B, 0x2A9D8F};
+  constexpr std::uint32_t kColors[] = {0x3A86FF, 0x8338EC, 0xFF006E, 0xFB5607, 0xFFBE0B,
+                                       0x2A9D8F, 0xE63946, 0x06D6A0, 0x6D597A};
   double date = 1'700'000'000;
   std::size_t next = 0;
   for (const std::string_view title : {"Holidays", "Pets", "Recipes"}) {
     const std::int64_t album = library.addAlbum(title);
     for (int i = 0; i < 3; ++i) {
-      const std::int64_t asset =
-          library.addAsset({.creationDate = date += kDay, .color = kColors[next++ % 6]});
+      const std::int64_t asset = library.addAsset({.creationDate = date += kDay, .color = kColors[next++]});
       library.addToAlbum(asset, album);
     }
   }
@@ -41,13 +44,42 @@ Phone::Phone(const std::filesystem::path& folder, const std::filesystem::path& l
 
 const User& Phone::open(std::string_view app) {
   apps_.erase(app);
-  return apps_.emplace(app, device_.launch(app)).first->second.user();
+  apps_.emplace(app, device_.launch(app));
+  return in(app);
+}
+
+const User& Phone::in(std::string_view app) const {
+  if (app != kSpringBoard) inFront_ = app;
+  return apps_.at(app).user();
+}
+
+std::optional<std::string> Phone::picture() const {
+  const auto app = apps_.find(inFront_);
+  if (app == apps_.end()) return std::nullopt;
+  try {
+    return app->second.user().picture();
+  } catch (const std::runtime_error&) {
+    return std::nullopt;
+  }
 }
 
 void Phone::changeSettings(const std::map<std::string, Device::Preference>& preferences) const {
   device_.writePreferences(preferences);
   device_.post(kReloadNotification);
   letAppsGoOn();
+}
+
+std::vector<AssetRow> Phone::inAlbum(std::string_view title) const {
+  const PhotoDatabase library = device_.photoLibrary();
+  const std::vector<CollectionRow> albums = library.allAlbums();
+  const auto album = std::ranges::find(albums, title, &CollectionRow::title);
+  return album == albums.end() ? std::vector<AssetRow>() : library.assetsInAlbum(album->identifier);
+}
+
+std::vector<AssetRow> Phone::inCameraRoll() const {
+  std::vector<AssetRow> assets = device_.photoLibrary().allAssets();
+  std::erase_if(assets, [](const AssetRow& asset) { return asset.isHidden; });
+  return assets;
 }
 
 std::string Phone::onceHolds(std::string_view path, const std::vector<std::string>& strings) const {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,11 +26,18 @@ class Phone {
   /// Starts the app, anew if it runs.
   const User& open(std::string_view app);
   /// The user of an app that has been opened.
-  const User& in(std::string_view app) const { return apps_.at(app).user(); }
+  const User& in(std::string_view app) const;
   void crash(std::string_view app) { apps_.at(app).kill(); }
+  /// What is on screen in the app that was last opened or used; none before the first one and after its
+  /// crash.
+  std::optional<std::string> picture() const;
 
   /// As the settings pane does; every app has read them when it returns.
   void changeSettings(const std::map<std::string, Device::Preference>& preferences) const;
+  /// What the photo library holds in the album of that title, hidden photos as well; nothing without one.
+  std::vector<AssetRow> inAlbum(std::string_view title) const;
+  /// What it holds that is not hidden.
+  std::vector<AssetRow> inCameraRoll() const;
   bool hasFile(std::string_view path) const { return std::filesystem::exists(device_.onDisk(path)); }
   /// A file that holds an array of strings, as "name holds [one, two]", once it holds these: who writes it
   /// does so in its own time.
@@ -42,6 +50,8 @@ class Phone {
 
   Device device_;
   std::map<std::string_view, App> apps_;
+  /// The app that was last asked for. Of SpringBoard there is nothing to see.
+  mutable std::string_view inFront_;
 };
 
 }  // namespace device

@@ -1,7 +1,9 @@
 #include "device/demo/story.hpp"
 
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
+#include <utility>
 
 namespace device {
 
@@ -22,17 +24,34 @@ void print(std::string_view before, std::string_view text) {
 
 void Story::chapter(std::string_view title) {
   std::printf("\n%.*s\n", static_cast<int>(title.size()), title.data());
+  chapters_.push_back({std::string(title), {}});
 }
 
 void Story::step(std::string_view text, const std::function<std::string()>& step) {
-  ++steps_;
   print("  ", text);
+  Step told{.text = std::string(text), .answer = {}, .wentAsTold = true, .picture = {}};
   try {
-    print("      => ", step());
+    told.answer = step();
   } catch (const std::exception& error) {
-    ++failures_;
-    print("  NOT SO ", error.what());
+    told.answer = error.what();
+    told.wentAsTold = false;
   }
+  print(told.wentAsTold ? "      => " : "  NOT SO ", told.answer);
+  told.picture = look_();
+  chapters_.back().steps.push_back(std::move(told));
+}
+
+int Story::steps() const {
+  std::size_t count = 0;
+  for (const Chapter& chapter : chapters_) count += chapter.steps.size();
+  return static_cast<int>(count);
+}
+
+int Story::failures() const {
+  std::ptrdiff_t count = 0;
+  for (const Chapter& chapter : chapters_)
+    count += std::ranges::count(chapter.steps, false, &Step::wentAsTold);
+  return static_cast<int>(count);
 }
 
 void expect(bool holds, std::string_view expectation) {

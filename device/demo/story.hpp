@@ -1,14 +1,35 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace device {
+
+/// What was told, and how it went.
+struct Step {
+  std::string text;
+  /// What the device answered, or what was expected in vain.
+  std::string answer;
+  bool wentAsTold;
+  /// The phone's screen afterwards, as an SVG document.
+  std::optional<std::string> picture;
+};
+
+struct Chapter {
+  std::string title;
+  std::vector<Step> steps;
+};
 
 /// Tells a story step by step, and whether the device did what it tells.
 class Story {
  public:
+  /// Looks at the phone when a step is over; none where there is nothing to see.
+  using Look = std::function<std::optional<std::string>()>;
+  explicit Story(Look look) : look_(std::move(look)) {}
+
   /// Heads what follows.
   void chapter(std::string_view title);
 
@@ -16,13 +37,14 @@ class Story {
   /// throws, the step did not go as told.
   void step(std::string_view text, const std::function<std::string()>& step);
 
+  const std::vector<Chapter>& chapters() const { return chapters_; }
+  int steps() const;
   /// How many steps did not go as told.
-  int failures() const { return failures_; }
-  int steps() const { return steps_; }
+  int failures() const;
 
  private:
-  int steps_ = 0;
-  int failures_ = 0;
+  Look look_;
+  std::vector<Chapter> chapters_;
 };
 
 /// For a step's answer: throws std::runtime_error with what was expected unless it holds.
