@@ -3,11 +3,17 @@
 #include "camera/album_chooser.hpp"
 #include "camera/capture_move.hpp"
 #include "camera/thumbnail.hpp"
+#include "photos/cells/shown_controllers.hpp"
+#include "photos/cells/tile_buttons.hpp"
+#include "photos/cells/tile_layout.hpp"
+#include "photos/cells/tile_lock.hpp"
 #include "photos/list/album_deletion.hpp"
 #include "photos/list/album_selection.hpp"
 #include "photos/list/appearing.hpp"
 #include "photos/list/authentication_request.hpp"
+#include "photos/list/list_editing.hpp"
 #include "photos/list/long_press.hpp"
+#include "photos/list/photo_move.hpp"
 #include "photos/list/return_to_main.hpp"
 #include "springboard/service.hpp"
 
@@ -39,15 +45,37 @@ constexpr HookRow kPhotosHooks[] = {
     add<unlockAlbum>("PUHorizontalAlbumListGadget", "unlockAlbum:withAlbum:", "v@:i@"),
     add<requestPassword>("PUHorizontalAlbumListGadget", "requestPassword:", "v@:i"),
     add<stripUnlockAuthorised>("PUHorizontalAlbumListGadget", "unlockAuthorised:", "v@:i"),
+    add<stripReloadCameraRoll>("PUHorizontalAlbumListGadget", "reloadCameraRollWithMove:", "v@:B"),
     replace<listWillAppear>("PUAlbumListViewController", "viewWillAppear:"),
     replace<listDidLayoutSubviews>("PUAlbumListViewController", "viewDidLayoutSubviews"),
     replace<listCell>("PUAlbumListViewController", "collectionView:cellForItemAtIndexPath:"),
     replace<selectInList>("PUAlbumListViewController", "didSelectItemAtIndexPath:"),
     add<handleLongPress>("PUAlbumListViewController", "handleLongPress:", "v@:@"),
     add<unlockAlbum>("PUAlbumListViewController", "unlockAlbum:withAlbum:", "v@:i@"),
+    add<handleCameraTap>("PUAlbumListViewController", "handleCameraTap:", "v@:@"),
+    add<returnSelectedPhotos>("PUAlbumListViewController", "returnSelectedPhotos:", "v@:B"),
     add<requestPassword>("PUAlbumListViewController", "requestPassword:", "v@:i"),
     add<listUnlockAuthorised>("PUAlbumListViewController", "unlockAuthorised:", "v@:i"),
+    add<listReloadCameraRoll>("PUAlbumListViewController", "reloadCameraRollWithMove:", "v@:B"),
     replace<deleteAlbum>("PUAlbumListViewController", "albumListCellContentView:performDeleteAction:"),
+    replace<listSetEditing>("PUAlbumListViewController", "setEditing:animated:"),
+    replace<skipDeleteConfirmation>("PUDeletePhotosActionController", "shouldSkipDeleteConfirmation"),
+    replace<layOutTile>("PUAlbumListCellContentView", "layoutSubviews"),
+    replace<tileSetEditing>("PUAlbumListCellContentView", "setEditing:animated:"),
+    add<createButtons>("PUAlbumListCellContentView", "createButtons", "v@:"),
+    add<askToMoveAlbum>("PUAlbumListCellContentView", "askToMoveAlbum", "v@:"),
+    add<moveAlbum>("PUAlbumListCellContentView", "moveAlbum", "v@:"),
+    add<lockAlbum>("PUAlbumListCellContentView", "lockAlbum", "v@:"),
+    add<unlockAlbum>("PUAlbumListCellContentView", "unlockAlbum:withAlbum:", "v@:i@"),
+    add<tileRequestPassword>("PUAlbumListCellContentView", "requestPassword:", "v@:i"),
+    add<tileUnlockAuthorised>("PUAlbumListCellContentView", "unlockAuthorised:", "v@:i"),
+    replace<tileTitle>("PUAlbumListCellContentView", "title"),
+    replace<albumViewSetAlbum>(
+        "PUPhotosAlbumViewController",
+        "setAssetCollection:fetchResultContainingAssetCollection:filterPredicate:existingFetchResults:"),
+    replace<gridWillAppear>("PUZoomableGridViewController", "viewWillAppear:"),
+    replace<contentWillAppear>("PXPhotosContentController", "contentViewWillAppear:"),
+    replace<curatedLibraryWillAppear>("PXCuratedLibraryUIViewController", "viewWillAppear:"),
 };
 
 constexpr HookRow kSpringBoardHooks[] = {

@@ -27,8 +27,13 @@ inline constexpr std::string_view kPasswordFile = "/var/mobile/Library/velvault/
 /// SpringBoard's latest answer: a dictionary.
 inline constexpr std::string_view kAnswerFile = "/var/mobile/Library/velvault/authenticate.plist";
 
-/// The button in the Camera.
+// The images of the buttons: the Camera's, and those of a tile that set or remove its lock and move its
+// album.
 inline constexpr std::string_view kAlbumImage = "/Library/Application Support/velvault12/album.png";
+inline constexpr std::string_view kLockButtonImage = "/Library/Application Support/velvault12/greenlock.png";
+inline constexpr std::string_view kMoveImage = "/Library/Application Support/velvault12/move.png";
+/// The padlock over a locked album.
+inline constexpr std::string_view kPadlockImage = "/Library/Application Support/velvault12/whitelock.png";
 
 /// Posted by the settings pane when the preferences have changed.
 inline constexpr std::string_view kReloadNotification = "com.qdx.velvault12prefs/reloadPrefs";

@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <latch>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +22,7 @@
 #include "device/system/sockets.hpp"
 #include "host/dispatch.hpp"
 #include "host/foundation.hpp"
+#include "host/photos.hpp"
 #include "host/runtime.hpp"
 
 namespace velvault12 {
@@ -75,6 +78,22 @@ class FolderEvents {
 
   int descriptor_ = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
   std::optional<device::Watch> watch_{std::in_place, descriptor_, [this] { drain(); }};
+};
+
+/// Keeps the photo library from making changes, for as long as it lives.
+class HeldLibrary {
+ public:
+  HeldLibrary() {
+    const auto wait = [gate = gate_](bool, Object) { gate->wait(); };
+    PHPhotoLibrary::sharedPhotoLibrary().performChanges(block<void()>([] {}),
+                                                        block<void(bool, Object)>(wait));
+  }
+  ~HeldLibrary() { gate_->count_down(); }
+  HeldLibrary(const HeldLibrary&) = delete;
+  HeldLibrary& operator=(const HeldLibrary&) = delete;
+
+ private:
+  std::shared_ptr<std::latch> gate_ = std::make_shared<std::latch>(1);
 };
 
 /// A phone with the library installed, whose folder goes with the test. The test's own process may become one
@@ -135,6 +154,18 @@ class PhoneTest : public ::testing::Test {
     bool isOver = false;
     runOnMainQueue([&isOver] { isOver = true; });
     ASSERT_TRUE(soon([&isOver] { return isOver; }));
+  }
+  /// Waits until the photo library has made the changes that it has been asked for by now, and those that
+  /// these bring about.
+  static void settleLibrary() {
+    for (int round = 0; round < 2; ++round) {
+      bool isOver = false;
+      PHPhotoLibrary::sharedPhotoLibrary().performChanges(block<void()>([] {}),
+                                                          block<void(bool, Object)>([&isOver](bool, Object) {
+                                                            runOnMainQueue([&isOver] { isOver = true; });
+                                                          }));
+      ASSERT_TRUE(soon([&isOver] { return isOver; }));
+    }
   }
   bool soonLocked(const Titles& titles) const {
     const FolderEvents events(phone_.onDisk(kStateFolder));

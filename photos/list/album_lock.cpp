@@ -1,15 +1,21 @@
 #include "photos/list/album_lock.hpp"
 
+#include <algorithm>
+
 #include "host/process_wide.hpp"
 #include "startup/shared_files.hpp"
 
 namespace velvault12 {
 
 bool AlbumLock::reload() {
-  auto titles = readStrings(kLockedAlbumsFile);
-  const bool wasThere = titles.has_value();
-  titles_ = LockedTitles(std::move(titles).value_or(std::vector<std::string>()));
-  return wasThere;
+  File read = readStrings(kLockedAlbumsFile);
+  const bool isThere = read.has_value();
+  if (read != expected_ && std::find(outdated_.begin(), outdated_.end(), read) != outdated_.end())
+    return isThere;
+  outdated_.clear();
+  titles_ = LockedTitles(read.value_or(std::vector<std::string>()));
+  expected_ = std::move(read);
+  return isThere;
 }
 
 void AlbumLock::lock(std::string_view title) {
@@ -22,7 +28,10 @@ void AlbumLock::removeLock(std::string_view title) {
   save();
 }
 
-void AlbumLock::save() const { saveArray(titles_.all(), kLockedAlbumsFile); }
+void AlbumLock::save() {
+  outdated_.push_back(std::exchange(expected_, titles_.all()));
+  saveArray(titles_.all(), kLockedAlbumsFile);
+}
 
 AlbumLock& albumLock() { return processWide<AlbumLock>(); }
 

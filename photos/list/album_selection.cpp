@@ -1,22 +1,13 @@
 #include "photos/list/album_selection.hpp"
 
 #include "photos/list/album_lock.hpp"
+#include "photos/list/album_title.hpp"
 #include "photos/list/authentication_request.hpp"
+#include "photos/list/picker.hpp"
 
 namespace velvault12 {
 
 namespace {
-
-NSString titleAt(PUHorizontalAlbumListGadget strip, NSIndexPath path) {
-  const Object gadget = strip.gadgetAtIndexPath(path);
-  const auto tile = albumTile(gadget);
-  return tile ? tile.title() : gadget.trySend<"title", NSString()>();
-}
-
-NSString titleAt(PUAlbumListViewController list, NSIndexPath path) {
-  const auto tile = list.tileAtIndexPath(path);
-  return tile ? tile.title() : list.collectionAtIndexPath(path).localizedTitle();
-}
 
 /// Whether the selection goes on to the host; if not, its owner has been asked for.
 template <class Controller>
@@ -27,9 +18,9 @@ bool goesOn(Controller controller, NSIndexPath path) {
     // An answer can come when nothing waits; the host knows no selection of nothing.
     return static_cast<bool>(path);
   }
-  lock.pendingSelection = Ref(path);
   const NSString title = titleAt(controller, path);
-  if (!title || !lock.isLocked(title.utf8())) return true;
+  lock.pendingSelection = {Ref(path), title.utf8()};
+  if (!lock.isLocked(title.utf8())) return true;
   askOwner(controller, AuthenticationMethod::openAlbum, title);
   return false;
 }
@@ -43,7 +34,7 @@ void selectInStrip(PUHorizontalAlbumListGadget strip, Replaced<void(UICollection
 
 void selectInList(PUAlbumListViewController list, Replaced<void(NSIndexPath)> host, NSIndexPath path) {
   albumLock().lockedAlbumOpened = false;
-  if (goesOn(list, path)) host(path);
+  if (goesOn(list, path)) chooseAlbum(list, path, host);
 }
 
 }  // namespace velvault12

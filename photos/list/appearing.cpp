@@ -2,6 +2,9 @@
 
 #include "photos/list/album_lock.hpp"
 #include "photos/list/controller_registry.hpp"
+#include "photos/list/list_editing.hpp"
+#include "photos/list/tile_measures.hpp"
+#include "photos/list/tile_measures_rules.hpp"
 #include "startup/settings.hpp"
 
 namespace velvault12 {
@@ -17,6 +20,7 @@ void reloadLockedAlbums() {
 void stripWillAppear(PUHorizontalAlbumListGadget strip, Replaced<void(bool)> host, bool animated) {
   host(animated);
   if (!settings().enabled) return;
+  tileMeasures().overlaySide = albumSize(UIScreen::mainScreen().bounds().size.width);
   reloadLockedAlbums();
   controllerRegistry().lastRequesting = Ref<Object>(strip);
 }
@@ -30,6 +34,7 @@ void listWillAppear(PUAlbumListViewController list, Replaced<void(bool)> host, b
 void listDidLayoutSubviews(PUAlbumListViewController list, Replaced<void()> host) {
   host();
   controllerRegistry().albumList = Ref<Object>(list);
+  updateBarButtons(list);
 }
 
 }  // namespace velvault12

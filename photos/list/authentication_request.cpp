@@ -3,6 +3,7 @@
 #include <string>
 
 #include "photos/list/album_lock.hpp"
+#include "photos/list/album_title.hpp"
 #include "photos/list/controller_registry.hpp"
 #include "photos/list/lock_rules.hpp"
 #include "photos/list/notice_banner.hpp"
@@ -20,82 +21,98 @@ void addPasswordField(UIAlertController alert) {
   }));
 }
 
-void checkPassword(UIViewController controller, int method, const std::string& entered) {
+void checkPassword(Object requester, int method, const std::string& entered, std::string_view wrongNotice) {
   const PasswordOutcome outcome = passwordOutcome(NSString::contentsOfFile(kPasswordFile), entered);
   if (outcome == PasswordOutcome::isWrong) {
-    showNotice("Incorrect password");
+    showNotice(wrongNotice);
     return;
   }
-  controller.trySend<"unlockAuthorised:", void(int)>(method);
+  requester.trySend<"unlockAuthorised:", void(int)>(method);
   if (outcome == PasswordOutcome::unlocksWithoutPassword) showNotice("No password set");
 }
 
-/// Gives the pass and runs the action again. Answers false for an album's opening, which is the caller's to
-/// run: each class has its own way of being told of a selection.
-bool resumed(UIViewController controller, int method) {
+// Each runs again what waits, through the hook that held it back and now finds the pass, if it is still about
+// the album whose owner was asked. When nothing waits, the pass is for whatever comes next. They keep what
+// waits for that long: the hook that lets it through drops it.
+
+void pressAgain(UIViewController controller) {
   AlbumLock& lock = albumLock();
+  const AlbumLock::LongPress pending = lock.pendingLongPress;
+  const auto tile = pending.recognizer->view().as<PUAlbumListCellContentView>();
+  if (pending.recognizer && tile.title().utf8() != pending.title) return;
   lock.givePass();
-  switch (static_cast<AuthenticationMethod>(method)) {
-    case AuthenticationMethod::removeLock: {
-      const Ref<UIGestureRecognizer> recognizer = lock.pendingLongPress;
-      controller.trySend<"handleLongPress:", void(UIGestureRecognizer)>(recognizer.get());
-      return true;
-    }
-    case AuthenticationMethod::deleteAlbum: {
-      const AlbumLock::Deletion deletion = lock.pendingDeletion;
-      PUAlbumListViewController(controller.get()).performDelete(deletion.tile.get(), deletion.action.get());
-      return true;
-    }
-    case AuthenticationMethod::openAlbum:
-      return false;
-  }
-  return true;
+  controller.trySend<"handleLongPress:", void(UIGestureRecognizer)>(pending.recognizer.get());
 }
 
-/// Selects again what waits, through the hook that held it back.
+void deleteAgain(UIViewController controller) {
+  AlbumLock& lock = albumLock();
+  const PUAlbumListViewController list(controller.get());
+  const AlbumLock::Deletion pending = lock.pendingDeletion;
+  if (const PUAlbumListCellContentView tile = pending.tile.get()) {
+    if (!list.collectionOf(tile) || titleOf(list, tile).utf8() != pending.title) return;
+  }
+  lock.givePass();
+  list.performDelete(pending.tile.get(), pending.action.get());
+}
+
 template <class Controller>
-void selectPending(Controller controller) {
-  // Kept here too: the hook that lets it through drops it.
-  const Ref<NSIndexPath> path = albumLock().pendingSelection;
-  controller.select(path.get());
-  albumLock().lockedAlbumOpened = true;
+void selectAgain(Controller controller) {
+  AlbumLock& lock = albumLock();
+  const AlbumLock::Selection pending = lock.pendingSelection;
+  if (pending.path) {
+    const UICollectionView view = controller.collectionView();
+    if (view && !view.hasItemAtIndexPath(pending.path.get())) return;
+    if (titleAt(controller, pending.path.get()).utf8() != pending.title) return;
+  }
+  lock.givePass();
+  controller.select(pending.path.get());
+  lock.lockedAlbumOpened = true;
+}
+
+template <class Controller>
+void runAgain(Controller controller, int method) {
+  switch (static_cast<AuthenticationMethod>(method)) {
+    case AuthenticationMethod::removeLock:
+      return pressAgain(controller);
+    case AuthenticationMethod::deleteAlbum:
+      return deleteAgain(controller);
+    case AuthenticationMethod::openAlbum:
+      return selectAgain(controller);
+  }
+  albumLock().givePass();
 }
 
 }  // namespace
 
-void unlockAlbum(UIViewController controller, int method, NSString album) {
-  controllerRegistry().lastRequesting = Ref<Object>(controller);
+void unlockAlbum(Object requester, int method, NSString album) {
+  controllerRegistry().recordRequesting(requester);
   const Ref<NSMutableDictionary> request = makeObject<NSMutableDictionary>();
   request->set(key::kSender, NSBundle::mainBundle().bundleIdentifier());
   request->set(key::kMethod, NSNumber::from(method));
   request->set(key::kAlbumName, album);
-  request->set(key::kController, NSString::from(controller.className()));
+  request->set(key::kController, NSString::from(requester.className()));
   sendToService(kAuthenticateMessage, request.get());
 }
 
-void requestPassword(UIViewController controller, int method) {
+void askForPassword(UIViewController controller, Object requester, int method, std::string_view wrongNotice) {
   const NSBundle bundle = NSBundle::mainBundle();
   const auto alert = UIAlertController::make("Unlock album", "Enter password to unlock album.",
                                              UIAlertController::Style::alert);
   addPasswordField(alert);
-  // The field and not the alert: an action that keeps its own alert is never released.
-  const Ref<UITextField> field(alert.firstTextField());
-  const Ref<UIViewController> owner(controller);
-  alert.addAction(UIAlertAction::make(bundle.localizedString("OK"), UIAlertAction::Style::standard,
-                                      block<void(UIAlertAction)>([owner, field, method](UIAlertAction) {
-                                        checkPassword(owner.get(), method, field->text().utf8());
-                                      })));
-  alert.addAction(UIAlertAction::make(bundle.localizedString("Cancel"), UIAlertAction::Style::cancel,
-                                      Block<void(UIAlertAction)>()));
+  alert.addAction(bundle.localizedString("OK"),
+                  [owner = Ref(requester), field = Ref(alert.firstTextField()), method, wrongNotice] {
+                    checkPassword(owner.get(), method, field->text().utf8(), wrongNotice);
+                  });
+  alert.addCancelAction(bundle.localizedString("Cancel"));
   controller.present(alert, true);
 }
 
-void stripUnlockAuthorised(PUHorizontalAlbumListGadget strip, int method) {
-  if (!resumed(strip, method)) selectPending(strip);
+void requestPassword(UIViewController controller, int method) {
+  askForPassword(controller, controller, method, "Incorrect password");
 }
 
-void listUnlockAuthorised(PUAlbumListViewController list, int method) {
-  if (!resumed(list, method)) selectPending(list);
-}
+void stripUnlockAuthorised(PUHorizontalAlbumListGadget strip, int method) { runAgain(strip, method); }
+
+void listUnlockAuthorised(PUAlbumListViewController list, int method) { runAgain(list, method); }
 
 }  // namespace velvault12

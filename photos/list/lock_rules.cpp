@@ -5,7 +5,11 @@
 namespace velvault12 {
 
 bool LockedTitles::contains(std::string_view title) const {
-  return std::find(titles_.begin(), titles_.end(), title) != titles_.end();
+  return !title.empty() && std::find(titles_.begin(), titles_.end(), title) != titles_.end();
+}
+
+void LockedTitles::add(std::string_view title) {
+  if (!title.empty()) titles_.emplace_back(title);
 }
 
 void LockedTitles::remove(std::string_view title) { std::erase(titles_, title); }

@@ -10,14 +10,15 @@ namespace velvault12 {
 
 /// The titles of the locked albums, in the order in which they were locked. An album is known by its title
 /// alone: two of one title are locked together, and a renamed one is no longer locked. Titles match only when
-/// they are the same to the letter.
+/// they are the same to the letter. An empty one is never locked: while titles are not shown, every tile is
+/// called so.
 class LockedTitles {
  public:
   LockedTitles() = default;
   explicit LockedTitles(std::vector<std::string> titles) : titles_(std::move(titles)) {}
 
   bool contains(std::string_view title) const;
-  void add(std::string_view title) { titles_.emplace_back(title); }
+  void add(std::string_view title);
   /// Every occurrence.
   void remove(std::string_view title);
   const std::vector<std::string>& all() const { return titles_; }

@@ -12,20 +12,11 @@ namespace {
 
 constexpr double kPressSeconds = 1.0;
 constexpr double kSecondsToRedraw = 0.1;
-constexpr NSInteger kLockFeedback = 1001;
 
 bool actsIn(UIGestureRecognizer::State state) {
   // A press that waited for its owner is handled again when the finger has long been lifted: it is possible
   // then.
   return state == UIGestureRecognizer::State::possible || state == UIGestureRecognizer::State::began;
-}
-
-void makePressable(PUAlbumListCellContentView tile, UIViewController target) {
-  if (!settings().enabled || !tile || tile.gestureRecognizers().count() > 0) return;
-  const auto recognizer =
-      makeRecognizer<UILongPressGestureRecognizer>(target, selector<"handleLongPress:">());
-  recognizer->setMinimumPressDuration(kPressSeconds);
-  tile.addGestureRecognizer(recognizer.get());
 }
 
 }  // namespace
@@ -35,17 +26,16 @@ void handleLongPress(UIViewController controller, UIGestureRecognizer recognizer
   AlbumLock& lock = albumLock();
   lock.reload();
   const auto tile = recognizer.view().as<PUAlbumListCellContentView>();
-  UIDevice::currentDevice().tapticEngine().actuateFeedback(kLockFeedback);
   const NSString title = tile.title();
-  if (!title) return;
-
   const std::string name = title.utf8();
+  if (name.empty()) return;
+  UIDevice::currentDevice().tick();
   switch (longPressOutcome(lock.isLocked(name), lock.hasPass())) {
     case LongPressOutcome::lock:
       lock.lock(name);
       break;
     case LongPressOutcome::askOwner:
-      lock.pendingLongPress = Ref(recognizer);
+      lock.pendingLongPress = {Ref(recognizer), name};
       askOwner(controller, AuthenticationMethod::removeLock, title);
       break;
     case LongPressOutcome::removeLock:
@@ -55,6 +45,14 @@ void handleLongPress(UIViewController controller, UIGestureRecognizer recognizer
       break;
   }
   NSTimer::scheduledOnce(kSecondsToRedraw, tile, selector<"layoutSubviews">());
+}
+
+void makePressable(PUAlbumListCellContentView tile, UIViewController target) {
+  if (!settings().enabled) return;
+  const auto recognizer =
+      makeRecognizer<UILongPressGestureRecognizer>(target, selector<"handleLongPress:">());
+  recognizer->setMinimumPressDuration(kPressSeconds);
+  if (tile.gestureRecognizers().count() == 0) tile.addGestureRecognizer(recognizer.get());
 }
 
 UICollectionViewCell stripCell(PUHorizontalAlbumListGadget strip,

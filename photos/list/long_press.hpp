@@ -11,7 +11,11 @@ namespace velvault12 {
 /// `handleLongPress:` of the strip and the list.
 void handleLongPress(UIViewController controller, UIGestureRecognizer recognizer);
 
-// Gives each album tile that has no gesture recognizer one for the long press.
+/// Has a long press on the tile handled by the target, which is not retained. A tile that has any gesture
+/// recognizer is left alone.
+void makePressable(PUAlbumListCellContentView tile, UIViewController target);
+
+// Make each tile pressable that they show.
 UICollectionViewCell stripCell(PUHorizontalAlbumListGadget strip,
                                Replaced<UICollectionViewCell(UICollectionView, NSIndexPath)> host,
                                UICollectionView view, NSIndexPath path);

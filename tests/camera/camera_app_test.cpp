@@ -63,22 +63,6 @@ NSTimer schedule(Object, Replaced<NSTimer(double, Object, SEL, Object, bool)> ho
 bool isPad = false;
 NSInteger idiom(Object, Replaced<NSInteger()> host) { return isPad ? 1 : host(); }
 
-/// Keeps the photo library from making changes, for as long as it lives.
-class HeldLibrary {
- public:
-  HeldLibrary() {
-    const auto wait = [gate = gate_](bool, Object) { gate->wait(); };
-    PHPhotoLibrary::sharedPhotoLibrary().performChanges(block<void()>([] {}),
-                                                        block<void(bool, Object)>(wait));
-  }
-  ~HeldLibrary() { gate_->count_down(); }
-  HeldLibrary(const HeldLibrary&) = delete;
-  HeldLibrary& operator=(const HeldLibrary&) = delete;
-
- private:
-  std::shared_ptr<std::latch> gate_ = std::make_shared<std::latch>(1);
-};
-
 class CameraApp : public PhoneTest {
  protected:
   /// Boots the phone and opens the Camera with these settings, and "Pets" as the album last chosen.
@@ -162,18 +146,6 @@ class CameraApp : public PhoneTest {
   }
 
   static void move() { engine().send<"movePhoto", void()>(); }
-  /// Waits until the photo library has made the changes that it has been asked for by now, and those that
-  /// these bring about.
-  static void settleLibrary() {
-    for (int round = 0; round < 2; ++round) {
-      bool isOver = false;
-      PHPhotoLibrary::sharedPhotoLibrary().performChanges(block<void()>([] {}),
-                                                          block<void(bool, Object)>([&isOver](bool, Object) {
-                                                            runOnMainQueue([&isOver] { isOver = true; });
-                                                          }));
-      ASSERT_TRUE(soon([&isOver] { return isOver; }));
-    }
-  }
   /// Waits as long as the moves do of captures whose callback has been handled.
   static void waitForMoves() {
     const Ref<NSTimer> timer(NSTimer::scheduledOnce(1.5, NSString::from("x"), selector<"length">()));

@@ -18,7 +18,6 @@ struct Change {
   Names replaced;
   Names added;
 };
-const Names kUnlocking{"handleLongPress:", "unlockAlbum:withAlbum:", "requestPassword:", "unlockAuthorised:"};
 const Names kChoosing{"chooseAlbum", "createNewAlbum", "adjustRotationToSize:"};
 const Change kChanges[] = {
     {device::kCamera,
@@ -37,12 +36,27 @@ const Change kChanges[] = {
      "PUHorizontalAlbumListGadget",
      {"viewWillAppear:", "collectionView:cellForItemAtIndexPath:",
       "collectionView:didSelectItemAtIndexPath:"},
-     kUnlocking},
+     {"handleLongPress:", "unlockAlbum:withAlbum:", "requestPassword:", "unlockAuthorised:",
+      "reloadCameraRollWithMove:"}},
     {device::kPhotos,
      "PUAlbumListViewController",
      {"viewWillAppear:", "viewDidLayoutSubviews", "collectionView:cellForItemAtIndexPath:",
-      "didSelectItemAtIndexPath:", "albumListCellContentView:performDeleteAction:"},
-     kUnlocking}};
+      "didSelectItemAtIndexPath:", "albumListCellContentView:performDeleteAction:", "setEditing:animated:"},
+     {"handleLongPress:", "unlockAlbum:withAlbum:", "handleCameraTap:", "returnSelectedPhotos:",
+      "requestPassword:", "unlockAuthorised:", "reloadCameraRollWithMove:"}},
+    {device::kPhotos, "PUDeletePhotosActionController", {"shouldSkipDeleteConfirmation"}, {}},
+    {device::kPhotos,
+     "PUAlbumListCellContentView",
+     {"layoutSubviews", "setEditing:animated:", "title"},
+     {"createButtons", "askToMoveAlbum", "moveAlbum", "lockAlbum",
+      "unlockAlbum:withAlbum:", "requestPassword:", "unlockAuthorised:"}},
+    {device::kPhotos,
+     "PUPhotosAlbumViewController",
+     {"setAssetCollection:fetchResultContainingAssetCollection:filterPredicate:existingFetchResults:"},
+     {}},
+    {device::kPhotos, "PUZoomableGridViewController", {"viewWillAppear:"}, {}},
+    {device::kPhotos, "PXPhotosContentController", {"contentViewWillAppear:"}, {}},
+    {device::kPhotos, "PXCuratedLibraryUIViewController", {"viewWillAppear:"}, {}}};
 
 using Host = std::tuple<std::string_view, bool>;
 class Constructor : public PhoneTest, public ::testing::WithParamInterface<Host> {};

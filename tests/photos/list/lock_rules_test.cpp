@@ -12,6 +12,8 @@ TEST(LockedTitles, MatchToTheLetterAndGoAllAtOnce) {
   EXPECT_FALSE(titles.contains("Cafe\u0301"));
   EXPECT_FALSE(titles.contains("pets"));
   EXPECT_FALSE(titles.contains("Pet"));
+  titles.add("");
+  EXPECT_FALSE(LockedTitles({""}).contains(""));
   titles.remove("Pets");
   EXPECT_EQ(titles.all(), (std::vector<std::string>{"Holidays", "Caf\u00e9"}));
 }

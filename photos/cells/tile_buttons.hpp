@@ -1,0 +1,22 @@
+#pragma once
+
+#include "host/hook.hpp"
+#include "host/photos_ui.hpp"
+
+namespace velvault12 {
+
+// A tile's two buttons, at its left edge while the album list is edited: one that moves its album's photos,
+// one that locks the album or removes its lock.
+
+/// `setEditing:animated:`.
+void tileSetEditing(PUAlbumListCellContentView tile, Replaced<void(bool, bool)> host, bool editing,
+                    bool animated);
+
+/// `createButtons`: they slide in from the left. Those that are there stay.
+void createButtons(PUAlbumListCellContentView tile);
+
+/// Puts them in their places; takes them away from a tile that is no longer to be edited.
+void layOutButtons(PUAlbumListCellContentView tile);
+void removeButtons(PUAlbumListCellContentView tile);
+
+}  // namespace velvault12

@@ -1,0 +1,100 @@
+#include "photos/cells/tile_lock.hpp"
+
+#include <string>
+#include <utility>
+
+#include "photos/list/album_lock.hpp"
+#include "photos/list/album_move.hpp"
+#include "photos/list/authentication_request.hpp"
+#include "photos/list/controller_registry.hpp"
+
+namespace velvault12 {
+
+namespace {
+
+void askOwner(PUAlbumListCellContentView tile, TileMethod method) {
+  albumLock().pendingTileAction = {Ref(tile), tile.title().utf8()};
+  unlockAlbum(tile, static_cast<int>(method), tile.title());
+}
+
+/// Whether the tile waits for an answer and still shows the album whose owner was asked. It waits once.
+bool wasWaiting(PUAlbumListCellContentView tile) {
+  const AlbumLock::TileAction pending = std::exchange(albumLock().pendingTileAction, {});
+  return pending.tile.get() == tile && pending.title == tile.title().utf8();
+}
+
+/// Shows the list as it is now. The strip does not know how.
+void reloadAround(PUAlbumListCellContentView tile) {
+  tile.viewControllerForAncestor().trySend<"reloadContentView", void()>();
+}
+
+void removeLock(PUAlbumListCellContentView tile, const std::string& title) {
+  albumLock().removeLock(title);
+  UIDevice::currentDevice().tick();
+  reloadAround(tile);
+  controllerRegistry().albumList->trySend<"viewDidLayoutSubviews", void()>();
+}
+
+}  // namespace
+
+void lockAlbum(PUAlbumListCellContentView tile) {
+  AlbumLock& lock = albumLock();
+  const bool hasList = lock.reload();
+  controllerRegistry().recordRequesting(tile);
+  if (!hasList) return;
+  const std::string title = tile.title().utf8();
+  if (!lock.isLocked(title)) {
+    lock.lock(title);
+    reloadAround(tile);
+  } else if (std::exchange(lock.tileAuthorised, false)) {
+    removeLock(tile, title);
+  } else {
+    askOwner(tile, TileMethod::lockAlbum);
+  }
+}
+
+void askToMoveAlbum(PUAlbumListCellContentView tile) {
+  albumLock().reload();
+  if (albumLock().isLocked(tile.title().utf8())) {
+    askOwner(tile, TileMethod::moveAlbum);
+  } else {
+    moveAlbum(tile);
+  }
+}
+
+void moveAlbum(PUAlbumListCellContentView tile) {
+  // The title and not the tile, which may show another album by then. While titles are not shown it has none.
+  const Ref<NSString> title(tile.title());
+  if (title->utf8().empty()) return;
+  const auto sheet =
+      UIAlertController::make("Move Album", "Return album photos to the camera roll or move them out?",
+                              UIAlertController::Style::actionSheet);
+  sheet.addAction("Return to camera roll",
+                  [title] { moveAlbumPhotos(title.get(), AlbumMove::returnToCameraRoll); });
+  sheet.addAction("Move out of camera roll", [title] { moveAlbumPhotos(title.get(), AlbumMove::moveOut); });
+  sheet.addCancelAction();
+  sheet.setPopoverSource(tile);
+  tile.viewControllerForAncestor().present(sheet, true);
+}
+
+void tileRequestPassword(PUAlbumListCellContentView tile, int method) {
+  askForPassword(tile.viewControllerForAncestor(), tile, method, "Incorrect password.");
+}
+
+void tileUnlockAuthorised(PUAlbumListCellContentView tile, int method) {
+  // Any process can say that there is an answer, and say it twice.
+  if (!wasWaiting(tile)) return;
+  AlbumLock& lock = albumLock();
+  lock.tileAuthorised = true;
+  switch (static_cast<TileMethod>(method)) {
+    case TileMethod::lockAlbum:
+      // Its lock may be gone by then: an answer never locks.
+      if (lock.reload() && lock.isLocked(tile.title().utf8())) lockAlbum(tile);
+      break;
+    case TileMethod::moveAlbum:
+      moveAlbum(tile);
+      break;
+  }
+}
+
+}  // namespace velvault12

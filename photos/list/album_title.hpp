@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/photos_ui.hpp"
+
+namespace velvault12 {
+
+// The title of the album that the strip or the list shows at a place, or in a tile. A tile that is out of
+// sight has none to tell, nor has any while titles are not shown; the album has it all the same.
+
+NSString titleAt(PUHorizontalAlbumListGadget strip, NSIndexPath path);
+NSString titleAt(PUAlbumListViewController list, NSIndexPath path);
+NSString titleOf(PUAlbumListViewController list, PUAlbumListCellContentView tile);
+
+}  // namespace velvault12

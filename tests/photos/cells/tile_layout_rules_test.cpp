@@ -1,0 +1,44 @@
+#include "photos/cells/tile_layout_rules.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace velvault12 {
+namespace {
+
+std::string words(const Frame& frame) {
+  const auto number = [](double value) { return std::to_string(value).substr(0, 6) + " "; };
+  return number(frame.x) + number(frame.y) + number(frame.width) + number(frame.height);
+}
+
+TEST(Overlay, IsAsLargeAsTheLastLargeStackAsksFor) {
+  EXPECT_EQ(overlaySide({0, 0, 163, 163}, 7), 165);
+  EXPECT_EQ(overlaySide({0, 0, 163.9, 81}, 7), 165) << "the whole points of the width";
+  EXPECT_EQ(overlaySide({0, 0, 300, 80}, 7), 7) << "80 points high is not large";
+  EXPECT_EQ(overlaySide({0, 0, 20, 80.1}, 7), 22);
+}
+
+TEST(Overlay, LiesOverTheStackAndLaterOnePointAroundIt) {
+  const Frame stack{3, 4.5, 100, 200};
+  EXPECT_EQ(words(newOverlayFrame(stack, 164)), words({3, 4.5, 164, 164}));
+  EXPECT_EQ(words(overlayFrame(stack, 164)), words({2, 3.5, 166, 166}));
+  EXPECT_EQ(words(blurFrame(164)), words({0, 0, 264, 264}));
+}
+
+TEST(Padlock, LiesInTheMiddleInWholePoints) {
+  EXPECT_EQ(words(padlockFrame(164)), words({57, 57, 50, 50}));
+  EXPECT_EQ(words(padlockFrame(165)), words({57, 57, 50, 50}));
+  EXPECT_EQ(words(padlockFrame(0)), words({-25, -25, 50, 50}));
+}
+
+TEST(TileFont, IsTheHostsOwnAtFifteenAndNoneForAHiddenText) {
+  EXPECT_EQ(tileFontSize(true, 14), 14);
+  EXPECT_EQ(tileFontSize(true, 15), std::nullopt);
+  EXPECT_EQ(tileFontSize(true, 0), 0);
+  EXPECT_EQ(tileFontSize(false, 15), 0);
+  EXPECT_EQ(tileFontSize(false, 20), 0);
+}
+
+}  // namespace
+}  // namespace velvault12

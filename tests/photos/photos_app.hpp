@@ -1,0 +1,101 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <optional>
+
+#include "host/photos_ui.hpp"
+#include "tests/phone_test.hpp"
+
+namespace velvault12 {
+
+using device::OwnerAnswer;
+
+/// How an album is reached: the strip is the first screen, the list is behind a button.
+enum class From { strip, list };
+inline void PrintTo(From from, std::ostream* out) { *out << (from == From::strip ? "strip" : "list"); }
+
+using Preferences = std::map<std::string, device::Device::Preference>;
+inline const Preferences kWithPassword = {{"passOption", 1}};
+
+/// The Photos app on the simulated device: this process is the app, and the test its user.
+class PhotosApp : public PhoneTest {
+ public:
+  PhotosApp() {
+    auto library = phone_.photoLibrary();
+    for (const std::string_view title : {"Holidays", "Pets", "Recipes"}) {
+      library.addToAlbum(library.addAsset({}), library.addAlbum(title));
+    }
+  }
+
+  /// Boots the phone with these albums locked and opens Photos at the strip or the list.
+  void open(From from, const Titles& locked = {}, const Preferences& preferences = {}) {
+    phone_.writePreferences(preferences);
+    springBoard_.emplace(phone_.launch(device::kSpringBoard));
+    writeStrings(kLockedAlbums, locked);
+    phone_.launchHere(device::kPhotos);
+    if (from == From::list) me_.tap("See All");
+  }
+
+  void reload(const Preferences& preferences) {
+    phone_.writePreferences(preferences);
+    phone_.post(kReload);
+    settle();
+  }
+
+  const device::User& owner() const { return springBoard_->user(); }
+  void ownerIs(OwnerAnswer answer) {
+    owner().waitForOwnerRequest();
+    owner().answerOwnerRequest(answer);
+  }
+
+  static UINavigationController navigation() {
+    return PhotosApplication(UIApplication::sharedApplication().get())
+        .tabbedLibraryViewController()
+        .selectedNavigationController();
+  }
+  static UIViewController top() { return navigation().send<"topViewController", UIViewController()>(); }
+  static PUAlbumListViewController albumList() { return top().as<PUAlbumListViewController>(); }
+  static PUHorizontalAlbumListGadget strip() {
+    return top().send<"childViewControllers", NSArray()>().objectAtIndex(0).as<PUHorizontalAlbumListGadget>();
+  }
+
+  static NSIndexPath pathTo(NSInteger item) {
+    return sendToClass<"indexPathForItem:inSection:", NSIndexPath(NSInteger, NSInteger)>(
+        NSIndexPath::hostClass(), item, 0);
+  }
+  /// The title of the album whose photos are on screen, "" for none.
+  static std::string openAlbum() {
+    return top().trySend<"assetCollection", PHCollection()>().localizedTitle().utf8();
+  }
+
+  bool soonOpen(std::string_view title) const {
+    return soon([&] { return openAlbum() == title; });
+  }
+  /// Lets everything that is on its way arrive: a message to SpringBoard and back.
+  void settle() const {
+    owner().screen();
+    turn();
+  }
+  /// Taps the album and answers which one is open then.
+  std::string tapped(std::string_view title) const {
+    me_.tap(title);
+    settle();
+    return openAlbum();
+  }
+  void enter(std::string_view password, std::string_view button = "OK") const {
+    me_.waitToSee("Unlock album");
+    me_.alert().type(password).tap(button);
+  }
+  void tapAndEnter(std::string_view title, std::string_view password, std::string_view button = "OK") const {
+    me_.tap(title);
+    enter(password, button);
+  }
+
+  std::optional<device::App> springBoard_;
+  device::User me_ = device::User::here();
+  AutoreleasePool pool_;
+};
+
+}  // namespace velvault12
