@@ -46,6 +46,8 @@ bool goesOn(PUAlbumListViewController list, PUAlbumListCellContentView tile, Obj
 
 /// Whether no other album holds the photo.
 bool isOnlyIn(NSArray albums, PHAsset photo) {
+  // An album may hold thousands.
+  const AutoreleasePool fetched;
   for (const auto album : PHAssetCollection::fetchContaining(photo, PHAssetCollection::Type::album)) {
     if (!albums.containsObject(album)) return false;
   }
