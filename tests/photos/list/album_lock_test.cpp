@@ -286,6 +286,13 @@ TEST_F(PhotosApp, WhatWaitsIsLetGoWhenItsAlbumIsNoLongerInItsPlace) {
   shownAnew();
   EXPECT_EQ(openAlbum(), "") << "not what is past the end";
   EXPECT_EQ(tapped("Recipes"), "") << "and no pass is left";
+  ownerIs(OwnerAnswer::cancel);
+  me_.tap("Edit");
+  me_.tap("Delete Recipes");
+  owner().waitForOwnerRequest();
+  library.removeCollection(library.collections()[0].identifier);
+  shownAnew();
+  EXPECT_TRUE(me_.sees("Done")) << "a tile that shows nothing any more deletes nothing";
 }
 
 std::string openAsTheAppIsLeft;
