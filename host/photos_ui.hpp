@@ -71,6 +71,7 @@ class PUAlbumListViewController : public HostClass<"PUAlbumListViewController", 
   }
   /// What the tile shows; nil for one that the list does not show.
   PHCollection collectionOf(PUAlbumListCellContentView tile) const {
+    if (!tile) return {};
     const auto path =
         trySend<"indexPathForAlbumListCellContentView:", NSIndexPath(PUAlbumListCellContentView)>(tile);
     return path ? collectionAtIndexPath(path) : PHCollection();

@@ -66,7 +66,7 @@ constexpr HookRow kPhotosHooks[] = {
     add<askToMoveAlbum>("PUAlbumListCellContentView", "askToMoveAlbum", "v@:"),
     add<moveAlbum>("PUAlbumListCellContentView", "moveAlbum", "v@:"),
     add<lockAlbum>("PUAlbumListCellContentView", "lockAlbum", "v@:"),
-    add<unlockAlbum>("PUAlbumListCellContentView", "unlockAlbum:withAlbum:", "v@:i@"),
+    add<tileUnlockAlbum>("PUAlbumListCellContentView", "unlockAlbum:withAlbum:", "v@:i@"),
     add<tileRequestPassword>("PUAlbumListCellContentView", "requestPassword:", "v@:i"),
     add<tileUnlockAuthorised>("PUAlbumListCellContentView", "unlockAuthorised:", "v@:i"),
     replace<tileTitle>("PUAlbumListCellContentView", "title"),

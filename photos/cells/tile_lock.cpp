@@ -13,14 +13,13 @@ namespace velvault12 {
 namespace {
 
 void askOwner(PUAlbumListCellContentView tile, TileMethod method) {
-  albumLock().pendingTileAction = {Ref(tile), tile.title().utf8()};
-  unlockAlbum(tile, static_cast<int>(method), tile.title());
+  tileUnlockAlbum(tile, static_cast<int>(method), tile.title());
 }
 
-/// Whether the tile waits for an answer and still shows the album whose owner was asked. It waits once.
-bool wasWaiting(PUAlbumListCellContentView tile) {
-  const AlbumLock::TileAction pending = std::exchange(albumLock().pendingTileAction, {});
-  return pending.tile.get() == tile && pending.title == tile.title().utf8();
+/// Whether the tile waits for that answer and still shows the album whose owner was asked. It waits once.
+bool wasWaiting(PUAlbumListCellContentView tile, int method) {
+  const auto pending = std::exchange(albumLock().pendingTileAction, {});
+  return pending.tile.get() == tile && pending.method == method && pending.title == tile.title().utf8();
 }
 
 /// Shows the list as it is now. The strip does not know how.
@@ -43,6 +42,8 @@ void lockAlbum(PUAlbumListCellContentView tile) {
   controllerRegistry().recordRequesting(tile);
   if (!hasList) return;
   const std::string title = tile.title().utf8();
+  // While titles are not shown the tile does not know its album.
+  if (title.empty()) return;
   if (!lock.isLocked(title)) {
     lock.lock(title);
     reloadAround(tile);
@@ -63,7 +64,7 @@ void askToMoveAlbum(PUAlbumListCellContentView tile) {
 }
 
 void moveAlbum(PUAlbumListCellContentView tile) {
-  // The title and not the tile, which may show another album by then. While titles are not shown it has none.
+  // The title and not the tile, which may show another album by then.
   const Ref<NSString> title(tile.title());
   if (title->utf8().empty()) return;
   const auto sheet =
@@ -77,13 +78,18 @@ void moveAlbum(PUAlbumListCellContentView tile) {
   tile.viewControllerForAncestor().present(sheet, true);
 }
 
+void tileUnlockAlbum(PUAlbumListCellContentView tile, int method, NSString album) {
+  albumLock().pendingTileAction = {Ref(tile), method, tile.title().utf8()};
+  unlockAlbum(tile, method, album);
+}
+
 void tileRequestPassword(PUAlbumListCellContentView tile, int method) {
   askForPassword(tile.viewControllerForAncestor(), tile, method, "Incorrect password.");
 }
 
 void tileUnlockAuthorised(PUAlbumListCellContentView tile, int method) {
   // Any process can say that there is an answer, and say it twice.
-  if (!wasWaiting(tile)) return;
+  if (!wasWaiting(tile, method)) return;
   AlbumLock& lock = albumLock();
   lock.tileAuthorised = true;
   switch (static_cast<TileMethod>(method)) {

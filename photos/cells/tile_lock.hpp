@@ -4,8 +4,8 @@
 
 namespace velvault12 {
 
-// What a tile's buttons do, and how a tile has its album's owner authenticated: `unlockAlbum:withAlbum:` is
-// that of the lists, with a method of the tile's own.
+// What a tile's buttons do, and how a tile has its album's owner authenticated: as the lists do, with methods
+// of its own.
 
 /// What waits for the owner of a tile's album. It travels to SpringBoard and back as a number.
 enum class TileMethod : int { lockAlbum = 0, moveAlbum = 1 };
@@ -17,6 +17,9 @@ void lockAlbum(PUAlbumListCellContentView tile);
 /// Opens the sheet with which all photos of the album are moved; of a locked album, once its owner is known.
 void askToMoveAlbum(PUAlbumListCellContentView tile);
 void moveAlbum(PUAlbumListCellContentView tile);
+
+/// `unlockAlbum:withAlbum:` asks as the lists do; the tile waits for the answer.
+void tileUnlockAlbum(PUAlbumListCellContentView tile, int method, NSString album);
 
 /// `requestPassword:`
 void tileRequestPassword(PUAlbumListCellContentView tile, int method);

@@ -56,6 +56,7 @@ class AlbumLock {
   };
   struct TileAction {
     Ref<PUAlbumListCellContentView> tile;
+    int method = 0;
     std::string title;
   };
   Selection pendingSelection;

@@ -16,12 +16,13 @@ NSString titleAt(PUHorizontalAlbumListGadget strip, NSIndexPath path) {
 
 NSString titleAt(PUAlbumListViewController list, NSIndexPath path) {
   const NSString shown = list.tileAtIndexPath(path).title();
-  return isTold(shown) ? shown : list.collectionAtIndexPath(path).localizedTitle();
+  if (isTold(shown) || list.isPlaceholderAtIndexPath(path)) return shown;
+  return list.collectionAtIndexPath(path).localizedTitle();
 }
 
 NSString titleOf(PUAlbumListViewController list, PUAlbumListCellContentView tile) {
-  const PHCollection shown = list.collectionOf(tile);
-  return shown ? shown.localizedTitle() : tile.title();
+  const NSString shown = tile.title();
+  return isTold(shown) ? shown : list.collectionOf(tile).localizedTitle();
 }
 
 }  // namespace velvault12

@@ -1,6 +1,7 @@
 #include "photos/list/authentication_request.hpp"
 
 #include <string>
+#include <utility>
 
 #include "photos/list/album_lock.hpp"
 #include "photos/list/album_title.hpp"
@@ -32,14 +33,19 @@ void checkPassword(Object requester, int method, const std::string& entered, std
 }
 
 // Each runs again what waits, through the hook that held it back and now finds the pass, if it is still about
-// the album whose owner was asked. When nothing waits, the pass is for whatever comes next. They keep what
-// waits for that long: the hook that lets it through drops it.
+// the album whose owner was asked. Either way it waits no longer. When nothing waits, a hook that is run all
+// the same uses the pass up; without a press there is none, and the pass is for whatever comes next.
 
 void pressAgain(UIViewController controller) {
   AlbumLock& lock = albumLock();
-  const AlbumLock::LongPress pending = lock.pendingLongPress;
-  const auto tile = pending.recognizer->view().as<PUAlbumListCellContentView>();
-  if (pending.recognizer && tile.title().utf8() != pending.title) return;
+  const auto pending = std::exchange(lock.pendingLongPress, {});
+  if (pending.recognizer) {
+    const auto tile = pending.recognizer->view().as<PUAlbumListCellContentView>();
+    if (tile.title().utf8() != pending.title) return;
+    // Its lock may be gone by now: an answer never locks.
+    lock.reload();
+    if (!lock.isLocked(pending.title)) return;
+  }
   lock.givePass();
   controller.trySend<"handleLongPress:", void(UIGestureRecognizer)>(pending.recognizer.get());
 }
@@ -47,7 +53,7 @@ void pressAgain(UIViewController controller) {
 void deleteAgain(UIViewController controller) {
   AlbumLock& lock = albumLock();
   const PUAlbumListViewController list(controller.get());
-  const AlbumLock::Deletion pending = lock.pendingDeletion;
+  const auto pending = std::exchange(lock.pendingDeletion, {});
   if (const PUAlbumListCellContentView tile = pending.tile.get()) {
     if (!list.collectionOf(tile) || titleOf(list, tile).utf8() != pending.title) return;
   }
@@ -58,7 +64,7 @@ void deleteAgain(UIViewController controller) {
 template <class Controller>
 void selectAgain(Controller controller) {
   AlbumLock& lock = albumLock();
-  const AlbumLock::Selection pending = lock.pendingSelection;
+  const auto pending = std::exchange(lock.pendingSelection, {});
   if (pending.path) {
     const UICollectionView view = controller.collectionView();
     if (view && !view.hasItemAtIndexPath(pending.path.get())) return;
@@ -66,7 +72,7 @@ void selectAgain(Controller controller) {
   }
   lock.givePass();
   controller.select(pending.path.get());
-  lock.lockedAlbumOpened = true;
+  if (pending.path) lock.lockedAlbumOpened = true;
 }
 
 template <class Controller>

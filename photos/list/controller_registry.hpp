@@ -10,7 +10,7 @@ namespace velvault12 {
 /// selected: of each kind the latest, kept alive until another takes its place. Main thread only.
 struct ControllerRegistry {
   Ref<Object> albumList;
-  /// The tile that asked for its owner last.
+  /// The tile that locked or that asked for its owner last.
   Ref<Object> albumTile;
   Ref<Object> lastRequesting;
 
@@ -23,7 +23,7 @@ struct ControllerRegistry {
   /// A zoomable grid has come on screen since a view was last given an album.
   bool gridShown = false;
 
-  /// Records who waits for an answer.
+  /// Records who an answer will be for.
   void recordRequesting(Object requester);
   /// Records what shows the library, in one of the three places, in the place of all three.
   void recordLibrary(Ref<Object> ControllerRegistry::*place, Object controller);

@@ -10,7 +10,7 @@ namespace velvault12 {
 namespace {
 
 // The buttons are found again by these, which no host gives to its own.
-constexpr NSInteger kMoveButtonTag = 1200215;
+constexpr NSInteger kMoveBarButtonTag = 1200215;
 constexpr NSInteger kCameraButtonTag = 1200216;
 
 struct ListEditing {
@@ -62,7 +62,7 @@ void updateBarButtons(PUAlbumListViewController list) {
   const bool isOn = settings().enabled;
   const bool movesAlbums = isOn && list.isEditing() && navigation.responds<"syncAlbums">();
   const bool returnsPhotos = isOn && list.pickerBannerView() && controllerRegistry().albumView;
-  setButton(item, kMoveButtonTag, movesAlbums, [&] { return moveButton(navigation); });
+  setButton(item, kMoveBarButtonTag, movesAlbums, [&] { return moveButton(navigation); });
   setButton(item, kCameraButtonTag, returnsPhotos, [&] { return cameraButton(list); });
 }
 

@@ -422,6 +422,10 @@ TEST_F(Tiles, AnAnswerIsForTheAlbumThatWasAskedForAndForOneTimeOnly) {
   };
   answer("Recipes");
   EXPECT_EQ(phone_.strings(kLockedAlbums), (Titles{"Holidays", "Recipes"}));
+  asked.send<"unlockAlbum:withAlbum:", void(int, NSString)>(7, NSString::from("Recipes"));
+  asked.send<"unlockAuthorised:", void(int)>(0);
+  EXPECT_EQ(phone_.strings(kLockedAlbums), (Titles{"Holidays", "Recipes"})) << "it waits for another method";
+  ownerIs(OwnerAnswer::cancel);
   answer("Holidays");
   asked.send<"setTitle:", void(NSString)>(NSString::from("Holidays"));
   EXPECT_TRUE(soonLocked({"Recipes"}));
