@@ -65,6 +65,18 @@ class PhotosApp : public PhoneTest {
     return sendToClass<"indexPathForItem:inSection:", NSIndexPath(NSInteger, NSInteger)>(
         NSIndexPath::hostClass(), item, 0);
   }
+  static PUAlbumListCellContentView tile(NSInteger item) { return albumList().tileAtIndexPath(pathTo(item)); }
+  /// Uses the tile for another album.
+  static void show(std::string_view title, PUAlbumListCellContentView tile) {
+    tile.send<"setTitle:", void(NSString)>(NSString::from(title));
+  }
+  /// What a long press on the tile sends.
+  static UIGestureRecognizer pressOn(PUAlbumListCellContentView tile) {
+    return UIGestureRecognizer(tile.gestureRecognizers().objectAtIndex(0).get());
+  }
+  static void longPress(UIGestureRecognizer press) {
+    albumList().send<"handleLongPress:", void(UIGestureRecognizer)>(press);
+  }
   /// The title of the album whose photos are on screen, "" for none.
   static std::string openAlbum() {
     return top().trySend<"assetCollection", PHCollection()>().localizedTitle().utf8();

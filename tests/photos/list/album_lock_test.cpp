@@ -225,6 +225,11 @@ TEST_F(PhotosApp, SwitchedOffNewTilesAreTheHostsOwn) {
 
 TEST_F(PhotosApp, ALockedAlbumIsDeletedOnlyByItsOwner) {
   open(From::list, {"Holidays", "Recipes"});
+  show("Recipes", tile(1));
+  albumList().performDelete(tile(1), Object());
+  ownerIs(OwnerAnswer::cancel);
+  EXPECT_EQ(albums().size(), 3u) << "what it is called on screen is locked";
+  show("Pets", tile(1));
   me_.tap("Edit");
   me_.tap("Delete Pets");
   settleLibrary();
@@ -262,37 +267,39 @@ TEST_F(PhotosApp, WhatWaitsIsLetGoWhenItsAlbumIsNoLongerInItsPlace) {
     settle();
     settle();
   };
-  // The tiles change places, and back; the answer comes once more.
+  const auto reload = [&] {
+    list->send<"reloadContentView", void()>();
+    turn();
+  };
   const auto shownAnew = [&] {
-    const auto reload = [&] {
-      list->send<"reloadContentView", void()>();
-      turn();
-    };
     reload();
     answered();
+  };
+  // Reloaded twice, the list's tiles are in their former places.
+  const auto answeredAgain = [&] {
     reload();
     phone_.post(kAnswered);
     settle();
     settle();
   };
-  const auto pressed = list->tileAtIndexPath(pathTo(0));
-  const Ref<Object> press(pressed.gestureRecognizers().objectAtIndex(0));
-  const auto longPress = [&] {
-    pressed.send<"setTitle:", void(NSString)>(NSString::from("Holidays"));
-    list->send<"handleLongPress:", void(Object)>(press.get());
+  const auto pressed = tile(0);
+  const Ref<UIGestureRecognizer> press(pressOn(pressed));
+  const auto pressHolidays = [&] {
+    show("Holidays", pressed);
+    longPress(press.get());
     owner().waitForOwnerRequest();
   };
-  longPress();
-  pressed.send<"setTitle:", void(NSString)>(NSString::from("Recipes"));
+  pressHolidays();
+  show("Recipes", pressed);
   answered();
-  pressed.send<"setTitle:", void(NSString)>(NSString::from("Holidays"));
+  show("Holidays", pressed);
   phone_.post(kAnswered);
   settle();
   settle();
   EXPECT_EQ(phone_.strings(kLockedAlbums), (Titles{"Holidays", "Recipes"})) << "it waits no longer";
   EXPECT_EQ(tapped("Recipes"), "Recipes") << "an answer that nobody awaits left a pass";
   me_.back();
-  longPress();
+  pressHolidays();
   writeStrings(kLockedAlbums, {"Recipes"});
   answered();
   EXPECT_EQ(phone_.strings(kLockedAlbums), Titles{"Recipes"}) << "an answer locks nothing";
@@ -302,17 +309,22 @@ TEST_F(PhotosApp, WhatWaitsIsLetGoWhenItsAlbumIsNoLongerInItsPlace) {
   me_.tap("Delete Holidays");
   owner().waitForOwnerRequest();
   shownAnew();
+  answeredAgain();
   settleLibrary();
   EXPECT_EQ(albums(), (Titles{"Holidays", "Pets", "Recipes"}));
   me_.tap("Done");
   me_.tap("Holidays");
   owner().waitForOwnerRequest();
-  library.removeCollection(library.collections()[0].identifier);
+  const auto holidays = library.collections()[0].identifier;
+  library.renameCollection(holidays, "Summer");
   shownAnew();
-  EXPECT_EQ(openAlbum(), "") << "not Pets";
+  EXPECT_EQ(openAlbum(), "") << "not Summer";
+  library.renameCollection(holidays, "Holidays");
+  answeredAgain();
+  EXPECT_EQ(openAlbum(), "");
   me_.tap("Recipes");
   owner().waitForOwnerRequest();
-  library.removeCollection(library.collections()[0].identifier);
+  library.removeCollection(holidays);
   shownAnew();
   EXPECT_EQ(openAlbum(), "") << "not what is past the end";
   EXPECT_EQ(tapped("Recipes"), "") << "and no pass is left";
@@ -320,7 +332,7 @@ TEST_F(PhotosApp, WhatWaitsIsLetGoWhenItsAlbumIsNoLongerInItsPlace) {
   me_.tap("Edit");
   me_.tap("Delete Recipes");
   owner().waitForOwnerRequest();
-  library.removeCollection(library.collections()[0].identifier);
+  library.removeCollection(library.collections()[1].identifier);
   shownAnew();
   EXPECT_TRUE(me_.sees("Done")) << "a tile that shows nothing any more deletes nothing";
 }
@@ -336,6 +348,9 @@ TEST_F(PhotosApp, LeavingTheAppTakesAnOpenedLockedAlbumOffTheScreen) {
   const HookRow row[] = {replace<leftTheApp>("PhotosApplication", "applicationDidEnterBackground:")};
   installHooks(row);
   open(From::strip, {"Holidays"});
+  // An answer for nothing opens nothing, so that there is nothing to leave.
+  phone_.post(kAnswered);
+  settle();
   const struct {
     Preferences preferences;
     From from;
@@ -369,20 +384,18 @@ TEST_F(PhotosApp, LeavingTheAppTakesAnOpenedLockedAlbumOffTheScreen) {
 TEST_F(PhotosApp, OnlyTheBeginningOfAPressActs) {
   open(From::list);
   using State = UIGestureRecognizer::State;
-  const PUAlbumListViewController list = albumList();
-  const UIGestureRecognizer recognizer(
-      list.tileAtIndexPath(pathTo(0)).gestureRecognizers().objectAtIndex(0).get());
+  const UIGestureRecognizer recognizer = pressOn(tile(0));
   EXPECT_EQ((recognizer.send<"minimumPressDuration", double()>()), 1.0);
   for (const State state : {State::changed, State::ended, State::cancelled, State::failed}) {
     recognizer.send<"_enterState:", void(State)>(state);
-    list.send<"handleLongPress:", void(UIGestureRecognizer)>(recognizer);
+    longPress(recognizer);
   }
-  list.send<"handleLongPress:", void(UIGestureRecognizer)>(UIGestureRecognizer());
+  longPress(UIGestureRecognizer());
   settle();
   EXPECT_TRUE(me_.feltFeedback().empty());
   EXPECT_EQ(phone_.strings(kLockedAlbums), Titles{});
   recognizer.send<"_enterState:", void(State)>(State::possible);
-  list.send<"handleLongPress:", void(UIGestureRecognizer)>(recognizer);
+  longPress(recognizer);
   EXPECT_TRUE(soonLocked({"Holidays"}));
 }
 
@@ -396,10 +409,9 @@ TEST_F(PhotosApp, ATileIsDrawnAgainShortlyAfterItsLockHasChanged) {
   open(From::list);
   const HookRow row[] = {replace<countLayout>("PUAlbumListCellContentView", "layoutSubviews")};
   installHooks(row);
-  const auto tile = albumList().tileAtIndexPath(pathTo(0));
   for (int press = 0; press < 2; ++press) {
     const int before = layoutPasses;
-    albumList().send<"handleLongPress:", void(Object)>(tile.gestureRecognizers().objectAtIndex(0));
+    longPress(pressOn(tile(0)));
     EXPECT_EQ(layoutPasses, before);
     EXPECT_TRUE(soon([&] { return layoutPasses > before; })) << press;
   }
