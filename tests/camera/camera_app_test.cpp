@@ -6,9 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <latch>
-#include <memory>
-#include <set>
 
 #include "device/apps/app.hpp"
 #include "device/system/loader.hpp"
@@ -20,15 +17,15 @@
 
 namespace velvault12 {
 
-/// Classes that the library does not find in this host.
-std::set<std::string_view> absentClasses;
+/// A class that the library does not find in this host.
+std::string_view absentClass;
 /// Found before the runtime's own, which asks it as well.
 extern "C" Class objc_getClass(const char* name) {
   static const auto host = reinterpret_cast<Class (*)(const char*)>(dlsym(RTLD_NEXT, "objc_getClass"));
   Dl_info caller{};
   dladdr(__builtin_return_address(0), &caller);
   const bool isLibrary = std::string_view(caller.dli_fname).ends_with("velvault12.dylib");
-  return isLibrary && absentClasses.contains(name) ? nullptr : host(name);
+  return isLibrary && absentClass == name ? nullptr : host(name);
 }
 
 namespace {
@@ -41,10 +38,10 @@ constexpr std::string_view kCaptureAlbum = "/var/mobile/Library/velvault/album.t
 constexpr std::string_view kNewAlbum = "- Create new album -";
 
 /// What the host's own implementation of the capture callback was called with.
-std::vector<id> captured;
+std::vector<std::optional<std::string>> captured;
 void hostCaptured(CAMCaptureEngine, Replaced<void(Object, Object, Object)> host, Object output,
                   Object settings, Object error) {
-  captured = {output.get(), settings.get(), error.get()};
+  captured = {stringValue(output), stringValue(settings), stringValue(error)};
   host(output, settings, error);
 }
 /// Where the library last had an array saved.
@@ -155,7 +152,7 @@ class CameraApp : public PhoneTest {
   static void finishCapture(int times = 1) {
     for (int i = 0; i < times; ++i) {
       engine().send<"captureOutput:didFinishCaptureForResolvedSettings:error:", void(Object, Object, Object)>(
-          NSString::from("output"), NSString::from("settings"), Object());
+          NSString::from("output"), NSString::from("settings"), NSString::from("error"));
     }
   }
 
@@ -191,10 +188,7 @@ TEST_F(CameraApp, ACaptureReachesTheHostUnchangedAndWaitsOnWhateverThread) {
   const auto photo = addPhoto();
   openWith("Pets");
   finishCapture();
-  ASSERT_EQ(captured.size(), 3u);
-  EXPECT_EQ(NSString(captured[0]).utf8(), "output");
-  EXPECT_EQ(NSString(captured[1]).utf8(), "settings");
-  EXPECT_EQ(captured[2], nullptr);
+  EXPECT_EQ(captured, (decltype(captured){"output", "settings", "error"}));
   EXPECT_EQ(secondsToMove, 1.5);
   waitForMoves();
   settleLibrary();
@@ -255,48 +249,32 @@ TEST_F(CameraApp, TheSettingsOfTheMomentDecideWhatACaptureDoes) {
   EXPECT_EQ(album("Pets").size(), 1u);
 }
 
-TEST_F(CameraApp, WithoutAPhotoTheAlbumIsMadeAndStaysEmpty) {
+TEST_F(CameraApp, WithoutAPhotoTheAlbumIsMadeAndWithoutTheAlbumThePhotoIsHidden) {
   const auto video = addPhoto(1, MediaType::video);
   openWith("Pets");
   move();
   settleLibrary();
   EXPECT_EQ(albums(), Titles{"Pets"});
   EXPECT_EQ(album("Pets"), Numbers());
-  EXPECT_EQ(cameraRoll(), Numbers{video});
-}
-
-TEST_F(CameraApp, AChangeThatFailsStopsNothing) {
-  const Numbers photos{addPhoto(1), addPhoto(2)};
-  const auto pets = library_.addAlbum("Pets");
-  openWith("Pets");
+  addPhoto(2);
   {
     const HeldLibrary held;
     move();
-    library_.removeCollection(pets);
+    library_.removeCollection(library_.allAlbums().front().identifier);
   }
   settleLibrary();
   EXPECT_EQ(albums(), Titles());
-  EXPECT_EQ(cameraRoll(), Numbers{photos[0]}) << "hidden all the same";
+  EXPECT_EQ(cameraRoll(), Numbers{video});
 }
 
 TEST_F(CameraApp, AHostWithoutTheHidingHelperStillAdds) {
-  absentClasses = {"PUAssetHidingHelper"};
+  absentClass = "PUAssetHidingHelper";
   const auto photo = addPhoto();
   openWith("Pets");
   move();
   settleLibrary();
   EXPECT_EQ(album("Pets"), Numbers{photo});
   EXPECT_EQ(cameraRoll(), Numbers{photo});
-}
-
-TEST_F(CameraApp, AHostWithoutThePhotoLibrarysChangesStillHides) {
-  absentClasses = {"PHPhotoLibrary"};
-  addPhoto();
-  openWith("Pets");
-  move();
-  settleLibrary();
-  EXPECT_EQ(albums(), Titles());
-  EXPECT_EQ(cameraRoll(), Numbers());
 }
 
 TEST_F(CameraApp, AThousandCapturesLeaveNothingBehind) {

@@ -18,8 +18,6 @@
 namespace velvault12 {
 namespace {
 
-using Heard = std::vector<std::string>;
-
 class Signals : public PhoneTest {
  protected:
   /// An app that prepares itself and then handles what comes.
@@ -40,9 +38,9 @@ class Signals : public PhoneTest {
   static void tell(std::string_view text) { test_->say(text); }
 
   /// What each process says next, in alphabetical order, is this.
-  static void expectFrom(std::initializer_list<const ForkedProcess*> processes, const Heard& expected) {
+  static void expectFrom(std::initializer_list<const ForkedProcess*> processes, const Titles& expected) {
     for (const ForkedProcess* process : processes) {
-      Heard heard;
+      Titles heard;
       while (heard.size() < expected.size()) heard.push_back(process->hear());
       std::sort(heard.begin(), heard.end());
       ASSERT_EQ(heard, expected);
@@ -147,7 +145,7 @@ TEST_F(Messages, ComeInOrderWithWhatTheyCarryOrAreLostWithoutAServer) {
       send(there, dictionaryOf());
     }
   });
-  for (const std::string& text : Heard{"first", "second", std::string(200'000, 'x')}) {
+  for (const std::string& text : Titles{"first", "second", std::string(200'000, 'x')}) {
     // The last time, the next server is there before its predecessor is missed.
     for (int i = 0; i < 20 && text.size() < 10; ++i) {
       sender.say("into the void");
@@ -156,7 +154,7 @@ TEST_F(Messages, ComeInOrderWithWhatTheyCarryOrAreLostWithoutAServer) {
     const App served = server();
     sender.say(text);
     expectFrom({&sender}, {"taken"});
-    for (const std::string& next : Heard{text, "nil", "no text"}) EXPECT_EQ(served.hear(), next);
+    for (const std::string& next : Titles{text, "nil", "no text"}) EXPECT_EQ(served.hear(), next);
   }
 }
 
@@ -169,7 +167,7 @@ TEST_F(Messages, OfASandboxedAppPassOnlyWhereBothEndsAreOpen) {
       test.say("done");
     });
     expectFrom({&sender}, {"done"});
-    expectFrom({&served}, isSandboxed ? Heard{"open.a"} : Heard(std::begin(kCenters), std::end(kCenters)));
+    expectFrom({&served}, isSandboxed ? Titles{"open.a"} : Titles(std::begin(kCenters), std::end(kCenters)));
   }
 }
 

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
+#include <sstream>
+
 #include "device/frameworks/installed_hooks.hpp"
 #include "device/system/loader.hpp"
 #include "tests/phone_test.hpp"
@@ -9,54 +12,38 @@
 namespace velvault12 {
 namespace {
 
-using Names = std::vector<std::string>;
-
-/// What one class of a host gets: methods that are replaced, in their order, and new ones.
-struct Change {
-  std::string_view bundleIdentifier;
-  std::string className;
-  Names replaced;
-  Names added;
-};
-const Names kChoosing{"chooseAlbum", "createNewAlbum", "adjustRotationToSize:"};
-const Change kChanges[] = {
-    {device::kCamera,
-     "CAMCaptureEngine",
-     {"captureOutput:didFinishCaptureForResolvedSettings:error:"},
-     {"movePhoto"}},
-    {device::kCamera, "CAMMetalView", {"layoutSubviews"}, kChoosing},
-    {device::kCamera, "CAMBottomBar", {"layoutSubviews"}, kChoosing},
-    {device::kCamera, "CAMImageWell", {"thumbnailImage"}, {}},
-    {device::kSpringBoard,
-     "SpringBoard",
-     {"applicationDidFinishLaunching:"},
-     {"handleMessageNamed:withUserInfo:", "authenticate:withUserInfo:"}},
-    {device::kPhotos, "PhotosApplication", {"applicationDidEnterBackground:"}, {"returnToMainView"}},
-    {device::kPhotos,
-     "PUHorizontalAlbumListGadget",
-     {"viewWillAppear:", "collectionView:cellForItemAtIndexPath:",
-      "collectionView:didSelectItemAtIndexPath:"},
-     {"handleLongPress:", "unlockAlbum:withAlbum:", "requestPassword:", "unlockAuthorised:",
-      "reloadCameraRollWithMove:"}},
-    {device::kPhotos,
-     "PUAlbumListViewController",
-     {"viewWillAppear:", "viewDidLayoutSubviews", "collectionView:cellForItemAtIndexPath:",
-      "didSelectItemAtIndexPath:", "albumListCellContentView:performDeleteAction:", "setEditing:animated:"},
-     {"handleLongPress:", "unlockAlbum:withAlbum:", "handleCameraTap:", "returnSelectedPhotos:",
-      "requestPassword:", "unlockAuthorised:", "reloadCameraRollWithMove:"}},
-    {device::kPhotos, "PUDeletePhotosActionController", {"shouldSkipDeleteConfirmation"}, {}},
-    {device::kPhotos,
-     "PUAlbumListCellContentView",
-     {"layoutSubviews", "setEditing:animated:", "title"},
-     {"createButtons", "askToMoveAlbum", "moveAlbum", "lockAlbum",
-      "unlockAlbum:withAlbum:", "requestPassword:", "unlockAuthorised:"}},
-    {device::kPhotos,
-     "PUPhotosAlbumViewController",
-     {"setAssetCollection:fetchResultContainingAssetCollection:filterPredicate:existingFetchResults:"},
-     {}},
-    {device::kPhotos, "PUZoomableGridViewController", {"viewWillAppear:"}, {}},
-    {device::kPhotos, "PXPhotosContentController", {"contentViewWillAppear:"}, {}},
-    {device::kPhotos, "PXCuratedLibraryUIViewController", {"viewWillAppear:"}, {}}};
+// What each host gets: classes, behind each its methods that are replaced, in their order, and new ones (+).
+constexpr const char* kCameraMethods = R"(
+    CAMCaptureEngine captureOutput:didFinishCaptureForResolvedSettings:error: +movePhoto
+    CAMMetalView layoutSubviews +chooseAlbum +createNewAlbum +adjustRotationToSize:
+    CAMBottomBar layoutSubviews +chooseAlbum +createNewAlbum +adjustRotationToSize:
+    CAMImageWell thumbnailImage)";
+constexpr const char* kSpringBoardMethods = R"(
+    SpringBoard applicationDidFinishLaunching:
+        +handleMessageNamed:withUserInfo: +authenticate:withUserInfo:)";
+constexpr const char* kPhotosMethods = R"(
+    PhotosApplication applicationDidEnterBackground: +returnToMainView
+    PUHorizontalAlbumListGadget viewWillAppear:
+        collectionView:cellForItemAtIndexPath: collectionView:didSelectItemAtIndexPath:
+        +handleLongPress: +unlockAlbum:withAlbum: +requestPassword: +unlockAuthorised:
+        +reloadCameraRollWithMove:
+    PUAlbumListViewController viewWillAppear: viewDidLayoutSubviews
+        collectionView:cellForItemAtIndexPath: didSelectItemAtIndexPath:
+        albumListCellContentView:performDeleteAction: setEditing:animated:
+        +handleLongPress: +unlockAlbum:withAlbum: +requestPassword: +unlockAuthorised:
+        +reloadCameraRollWithMove: +handleCameraTap: +returnSelectedPhotos:
+    PUDeletePhotosActionController shouldSkipDeleteConfirmation
+    PUAlbumListCellContentView layoutSubviews setEditing:animated: title
+        +unlockAlbum:withAlbum: +requestPassword: +unlockAuthorised:
+        +createButtons +askToMoveAlbum +moveAlbum +lockAlbum
+    PUPhotosAlbumViewController
+        setAssetCollection:fetchResultContainingAssetCollection:filterPredicate:existingFetchResults:
+    PUZoomableGridViewController viewWillAppear:
+    PXPhotosContentController contentViewWillAppear:
+    PXCuratedLibraryUIViewController viewWillAppear:)";
+constexpr std::pair<std::string_view, const char*> kMethods[] = {{device::kCamera, kCameraMethods},
+                                                                 {device::kSpringBoard, kSpringBoardMethods},
+                                                                 {device::kPhotos, kPhotosMethods}};
 
 using Host = std::tuple<std::string_view, bool>;
 class Constructor : public PhoneTest, public ::testing::WithParamInterface<Host> {};
@@ -71,17 +58,22 @@ TEST_P(Constructor, DoesWhatTheHostIsToGetAndNothingElse) {
   become(host);
   device::loadInjectedLibraries();
 
-  Names replaced;
+  std::vector<std::string> replaced, expected;
   for (const auto& hook : device::installedHooks()) replaced.push_back(hook.className + " " + hook.selector);
-  Names expected;
-  for (const Change& change : kChanges) {
-    const bool isMade = enabled && change.bundleIdentifier == host;
-    for (const auto& name : change.replaced) {
-      if (isMade) expected.push_back(change.className + " " + name);
-    }
-    for (const auto& name : change.added) {
-      const Class type = objc_getClass(change.className.c_str());
-      EXPECT_EQ(class_getInstanceMethod(type, sel_registerName(name.c_str())) != nullptr, isMade) << name;
+  for (const auto& [owner, methods] : kMethods) {
+    const bool isMade = enabled && owner == host;
+    std::istringstream words(methods);
+    std::string className;
+    for (std::string word; words >> word;) {
+      if (std::isupper(word.front())) {
+        className = word;
+      } else if (word.front() == '+') {
+        const Class type = objc_getClass(className.c_str());
+        const SEL added = sel_registerName(word.c_str() + 1);
+        EXPECT_EQ(class_getInstanceMethod(type, added) != nullptr, isMade) << className << word;
+      } else if (isMade) {
+        expected.push_back(className + " " + word);
+      }
     }
   }
   EXPECT_EQ(replaced, expected);

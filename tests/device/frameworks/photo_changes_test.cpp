@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <future>
 #include <thread>
 
 #include "host/photos.hpp"
@@ -17,7 +16,7 @@ using Request = PHAssetCollectionChangeRequest;
 
 class PhotoChanges : public PlainPhone {
  protected:
-  PhotoChanges() { device::become({phone_.folder(), std::string(device::kGallery)}); }
+  PhotoChanges() { become(device::kGallery); }
 
   static void perform(Work requests, Block<void(bool, Object)> completion = {}) {
     PHPhotoLibrary::sharedPhotoLibrary().performChanges(block<void()>(requests), completion);
@@ -48,11 +47,6 @@ class PhotoChanges : public PlainPhone {
   static PHFetchResult<PHAsset> photos() {
     return PHAsset::fetchWithMediaType(PHAsset::MediaType::image, {});
   }
-  Titles titles() const {
-    Titles all;
-    for (const auto& row : library_.allAlbums()) all.push_back(row.title);
-    return all;
-  }
   bool isHidden() const { return library_.allAssets().front().isHidden; }
 
   device::PhotoDatabase library_ = phone_.photoLibrary();
@@ -62,7 +56,7 @@ class PhotoChanges : public PlainPhone {
 
 TEST_F(PhotoChanges, AreMadeAfterTheirBlockOnTheLibrarysThread) {
   library_.addToAlbum(photo_, pets_);
-  std::string identifier, made;
+  std::string identifier;
   std::thread::id thread;
   const auto requests = [&] {
     thread = std::this_thread::get_id();
@@ -70,15 +64,14 @@ TEST_F(PhotoChanges, AreMadeAfterTheirBlockOnTheLibrarysThread) {
     identifier = request.createdIdentifier().utf8();
     ask<"addAssets:">(request, photos());
     ask<"removeAssets:">(changeOf(album(pets_)), photos());
-    EXPECT_EQ(titles(), Titles{"Pets"});
+    EXPECT_EQ(albums(), Titles{"Pets"});
   };
   const auto then = [&] {
     EXPECT_EQ(std::this_thread::get_id(), thread);
-    made = album(identifier).localizedTitle().utf8();
+    EXPECT_EQ(album(identifier).localizedTitle().utf8(), "Trips") << "made by then";
   };
   EXPECT_EQ(change(requests, then), "");
   EXPECT_NE(thread, std::this_thread::get_id());
-  EXPECT_EQ(made, "Trips");
   EXPECT_TRUE(library_.assetsInAlbum(pets_).empty());
   EXPECT_EQ(library_.albumsContaining(photo_).size(), 1u);
 }
@@ -99,29 +92,26 @@ TEST_F(PhotoChanges, ThatFailAreTakenBackAsAWhole) {
       library_.removeCollection(gone);
     };
     EXPECT_EQ(change(requests), "failed: PHPhotosErrorDomain");
-    EXPECT_EQ(titles(), Titles{"Pets"});
+    EXPECT_EQ(albums(), Titles{"Pets"});
     EXPECT_TRUE(library_.assetsInAlbum(pets_).empty());
     EXPECT_FALSE(isHidden());
   }
   EXPECT_EQ(change(others), "");
-  EXPECT_EQ(titles(), (Titles{"Pets", "New"}));
+  EXPECT_EQ(albums(), (Titles{"Pets", "New"}));
   EXPECT_EQ(library_.assetsInAlbum(pets_).size(), 1u);
   EXPECT_TRUE(isHidden());
 }
 
 TEST_F(PhotoChanges, ComeInTheOrderOfTheirCalls) {
   Titles order;
-  std::promise<void> allAreAsked;
-  bool isOver = false;
-  const auto note = [&order](const std::string& text) { return [&order, text] { order.push_back(text); }; };
-  perform([&] { allAreAsked.get_future().wait(); });
-  perform(note("first"), block<void(bool, Object)>([&](bool, Object) {
-            order.push_back("first is over");
-            perform([&] { runOnMainQueue([&isOver] { isOver = true; }); });
-          }));
-  perform(note("second"));
-  allAreAsked.set_value();
-  EXPECT_TRUE(soon([&] { return isOver; }));
+  const auto note = [&order](const std::string& text) { order.push_back(text); };
+  {
+    const HeldLibrary held;
+    perform([&] { note("first"); }, block<void(bool, Object)>([&](bool, Object) { note("first is over"); }));
+    perform([&] { note("second"); });
+    EXPECT_EQ(order, Titles());
+  }
+  settleLibrary();
   EXPECT_EQ(order, (Titles{"first", "first is over", "second"}));
 }
 
@@ -145,7 +135,7 @@ TEST_F(PhotoChanges, RaiseWhereAPhoneRaises) {
   };
   EXPECT_TRUE(requestsRaise());
   EXPECT_EQ(change(requests, [&] { EXPECT_TRUE(requestsRaise()); }), "");
-  EXPECT_EQ(titles(), (Titles{"Pets", "Synced"}));
+  EXPECT_EQ(albums(), (Titles{"Pets", "Synced"}));
   const auto set = ask<"setWithObject:", NSArray>(hostType<"NSSet">(), photos().firstObject());
   EXPECT_TRUE(raises([&] { PUAssetHidingHelper::apply(true, set); })) << "no array";
 }

@@ -22,7 +22,7 @@ using Subtype = PHAssetCollection::Subtype;
 
 class Photos : public PlainPhone {
  protected:
-  Photos() { device::become({phone_.folder(), std::string(device::kGallery)}); }
+  Photos() { become(device::kGallery); }
 
   std::int64_t addTo(std::int64_t album, const device::AssetRow& asset) {
     const std::int64_t added = library_.addAsset(asset);
@@ -30,12 +30,6 @@ class Photos : public PlainPhone {
     return added;
   }
 
-  static Titles titlesOf(const std::vector<device::CollectionRow>& rows) {
-    Titles all;
-    for (const auto& row : rows) all.push_back(row.title);
-    return all;
-  }
-  /// Of what was fetched, or of an array.
   template <class List>
   static Titles titlesOf(List collections) {
     Titles all;
@@ -48,14 +42,14 @@ class Photos : public PlainPhone {
     return all;
   }
 
-  static auto albums(Type type, Subtype subtype = Subtype::any, const Options& options = {}) {
+  static auto fetch(Type type, Subtype subtype = Subtype::any, const Options& options = {}) {
     return PHAssetCollection::fetch(type, subtype, options.get());
   }
   static PHAssetCollection album(std::string_view title) {
     return PHAssetCollection::userAlbums(NSString::from(title)).firstObject();
   }
   static PHAssetCollection smartAlbum(NSInteger subtype) {
-    return albums(Type::smartAlbum, Subtype{subtype}).firstObject();
+    return fetch(Type::smartAlbum, Subtype{subtype}).firstObject();
   }
   static Numbers in(PHAssetCollection album, const Options& options = {}) {
     return numbersOf(PHAsset::fetchInAssetCollection(album, options.get()));
@@ -66,6 +60,7 @@ class Photos : public PlainPhone {
   static Collections topLevel() {
     return ask<"fetchTopLevelUserCollectionsWithOptions:", Collections>(hostType<"PHCollection">(), Object());
   }
+  static NSArray members(Object folder) { return ask<"collections", NSArray>(folder); }
   static NSUInteger estimate(Object album) { return ask<"estimatedAssetCount", NSUInteger>(album); }
 
   static Options sortedBy(std::string_view key, bool ascending) {
@@ -83,9 +78,10 @@ TEST_F(Photos, TheDatabaseKeepsAlbumsInFoldersInTheirOrder) {
   const auto north = library_.addFolder("O'Hara's \U0001F512 \"north\"", trips);
   const auto fjords = library_.addAlbum("", north);
   library_.addAlbum("Pets", trips);
-  EXPECT_EQ(titlesOf(library_.collections()), (Titles{"Pets", "Trips"}));
-  EXPECT_EQ(titlesOf(library_.collections(trips)), (Titles{"O'Hara's \U0001F512 \"north\"", "Pets"}));
-  EXPECT_EQ(titlesOf(library_.allAlbums()), (Titles{"Pets", "", "Pets"})) << "wherever they are kept";
+  EXPECT_EQ(titlesOf(topLevel()), (Titles{"Pets", "Trips"}));
+  EXPECT_EQ(titlesOf(members(topLevel().objectAtIndex(1))),
+            (Titles{"O'Hara's \U0001F512 \"north\"", "Pets"}));
+  EXPECT_EQ(albums(), (Titles{"Pets", "", "Pets"})) << "wherever they are kept";
 
   const auto asset = addTo(fjords, {});
   addTo(pets, {});
@@ -93,10 +89,10 @@ TEST_F(Photos, TheDatabaseKeepsAlbumsInFoldersInTheirOrder) {
   library_.addToAlbum(asset, pets);
   EXPECT_EQ(library_.assetsInAlbum(pets).size(), 2u) << "no asset is in an album twice";
   EXPECT_THROW(library_.addToAlbum(asset, 99), std::runtime_error);
-  EXPECT_EQ(titlesOf(library_.albumsContaining(asset)), (Titles{"Pets", ""}));
+  EXPECT_EQ(library_.albumsContaining(asset).size(), 2u);
   library_.removeFromAlbum(asset, pets);
   library_.removeCollection(trips);
-  EXPECT_EQ(titlesOf(library_.allAlbums()), Titles{"Pets"}) << "a folder goes with all that is in it";
+  EXPECT_EQ(albums(), Titles{"Pets"}) << "a folder goes with all that is in it";
   EXPECT_TRUE(library_.albumsContaining(asset).empty());
   EXPECT_EQ(library_.allAssets().size(), 2u) << "assets stay";
 }
@@ -110,10 +106,9 @@ TEST_F(Photos, WritersInALibraryThatIsNewLoseNothing) {
       library.addToAlbum(library.addAsset({.creationDate = double(writer)}), added);
     }
   };
-  {
-    std::vector<std::jthread> writers;
-    for (int writer = 0; writer < 4; ++writer) writers.emplace_back(write, writer);
-  }
+  std::vector<std::jthread> writers;
+  for (int writer = 0; writer < 4; ++writer) writers.emplace_back(write, writer);
+  writers.clear();
   const PhotoDatabase library(file);
   EXPECT_EQ(library.allAlbums().size(), 32u);
   for (const auto& row : library.allAlbums()) {
@@ -127,16 +122,15 @@ TEST_F(Photos, AResultStaysAsItWasWhileAListFollowsTheLibrary) {
   PhotoDatabase other = phone_.photoLibrary();
   const auto trips = other.addFolder("Trips");
   const auto north = other.addAlbum("North", trips);
-  const auto before = albums(Type::album);
+  const auto before = fetch(Type::album);
   const Object folder = topLevel().firstObject();
-  const auto members = [](Object list) { return ask<"collections", NSArray>(list); };
   const auto copy = ask<"transientCollectionListWithCollections:title:", PHCollection>(
       hostType<"PHCollectionList">(), members(folder), NSString::from("Copy"));
   other.renameCollection(north, "Fjords");
   other.addAlbum("South", trips);
   const Titles then{"North"}, now{"Fjords", "South"};
   EXPECT_EQ(titlesOf(before), then);
-  EXPECT_EQ(titlesOf(albums(Type::album)), now);
+  EXPECT_EQ(titlesOf(fetch(Type::album)), now);
   EXPECT_EQ(titlesOf(members(copy)), then) << "a list that is kept nowhere";
   EXPECT_EQ(titlesOf(members(folder)), now);
   EXPECT_FALSE(copy.allowsAddingAssets());
@@ -146,11 +140,7 @@ TEST_F(Photos, AlbumsAreFetchedByTypeAndSubtype) {
   library_.addAlbum("Own");
   library_.addAlbum("Kept", library_.addFolder("Folder"));
   library_.addSyncedAlbum("Synced");
-  const struct {
-    Type type;
-    NSInteger subtype;
-    Titles found;
-  } cases[] = {
+  const std::tuple<Type, NSInteger, Titles> cases[] = {
       {Type::album, INT64_MAX, {"Own", "Kept", "Synced"}},
       {Type::album, 2, {"Own", "Kept"}},
       {Type::album, 5, {"Synced"}},
@@ -158,9 +148,8 @@ TEST_F(Photos, AlbumsAreFetchedByTypeAndSubtype) {
       {Type::smartAlbum, 2, {}},
       {Type::album, 209, {}},
   };
-  for (const auto& each : cases) {
-    EXPECT_EQ(titlesOf(albums(each.type, Subtype{each.subtype})), each.found) << each.subtype;
-  }
+  for (const auto& [type, subtype, found] : cases)
+    EXPECT_EQ(titlesOf(fetch(type, Subtype{subtype})), found) << subtype;
 
   Titles identifiers{"unknown"};
   for (const Object each : {album("Kept"), smartAlbum(203)})
@@ -211,7 +200,7 @@ TEST_F(Photos, AnAlbumsAssetsAreFilteredAndSorted) {
   EXPECT_EQ(numbersOf(keyAssetsIn(album("Pets"))).front(), old);
   EXPECT_FALSE(keyAssetsIn(album("Empty"))) << "nothing stands for it";
 
-  EXPECT_EQ(titlesOf(albums(Type::album, Subtype::any, sortedBy("localizedTitle", true))),
+  EXPECT_EQ(titlesOf(fetch(Type::album, Subtype::any, sortedBy("localizedTitle", true))),
             (Titles{"Cats", "Empty", "Pets"}));
   library_.addToAlbum(late, cats);
   const PHAsset asset = PHAsset::fetchInAssetCollection(album("Cats"), {}).lastObject();

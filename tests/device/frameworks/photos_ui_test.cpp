@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "tests/device/frameworks/plain_phone.hpp"
+#include "tests/photos/photos_app.hpp"
 
 namespace velvault12 {
 
@@ -145,13 +146,7 @@ TEST(PhotosUIClasses, HaveTheMethodsOfAnIPhoneAndLackWhatItLacks) {
 
 class PhotosUI : public PlainPhone {
  protected:
-  /// The navigation controller of the tab in front.
-  static UINavigationController navigation() {
-    return PhotosApplication(UIApplication::sharedApplication().get())
-        .tabbedLibraryViewController()
-        .selectedNavigationController();
-  }
-  static UIViewController top() { return ask<"topViewController", UIViewController>(navigation()); }
+  static constexpr auto pathTo = &PhotosApp::pathTo;
 
   device::PhotoDatabase library_ = phone_.photoLibrary();
   const device::User me_ = device::User::here();
@@ -160,15 +155,10 @@ class PhotosUI : public PlainPhone {
 TEST_F(PhotosUI, TheListKnowsItsTilesWhileTheyAreInSight) {
   for (int i = 0; i < 30; ++i) library_.addAlbum("Album " + std::to_string(i));
   phone_.launchHere(device::kPhotos);
-  const auto strip =
-      ask<"childViewControllers", NSArray>(top()).objectAtIndex(0).as<PUHorizontalAlbumListGadget>();
-  EXPECT_EQ(albumTile(strip.gadgetAtIndexPath(pathTo(1))).title().utf8(), "Album 1");
+  const auto strip = PhotosApp::strip();
   me_.tap("See All");
-  const auto list = top().as<PUAlbumListViewController>();
-  const auto tile = list.tileAtIndexPath(pathTo(3));
-  EXPECT_EQ(tile.title().utf8(), "Album 3");
-  EXPECT_EQ(list.collectionOf(tile).localizedTitle().utf8(), "Album 3");
-  EXPECT_EQ(tile.viewControllerForAncestor(), list);
+  const auto list = PhotosApp::albumList();
+  EXPECT_EQ(list.collectionOf(list.tileAtIndexPath(pathTo(3))).localizedTitle().utf8(), "Album 3");
   EXPECT_FALSE(list.tileAtIndexPath(pathTo(29)));
   me_.tap("Album 29");
   me_.back();
@@ -195,7 +185,7 @@ TEST_F(PhotosUI, ABarShowsTheFirstOfItsItemsOnTheOutside) {
   const auto items = makeObject<NSMutableArray>();
   items->addObject(UIBarButtonItem::withImage(picture, {}, {}).get());
   items->addObject(UIBarButtonItem::camera({}, {}).get());
-  top().navigationItem().setRightBarButtonItems(items.get());
+  PhotosApp::top().navigationItem().setRightBarButtonItems(items.get());
   const std::string screen = me_.screen();
   for (const char* const line : {"UIButton (315 0 44 44)", "UIImageView \"picture\" (8 15 28 14)",
                                  "UIButton \"Camera\" (235 0 80 44)"}) {
@@ -206,6 +196,7 @@ TEST_F(PhotosUI, ABarShowsTheFirstOfItsItemsOnTheOutside) {
 /// In the grid of an album, and in that of the whole library.
 class Selection : public PhotosUI, public ::testing::WithParamInterface<std::string> {
  protected:
+  static constexpr std::string_view kSelect = "Select";
   static constexpr std::string_view kFirst = "Photo, 1970-01-01 00:00:01";
   static constexpr std::string_view kSecond = "Photo, 1970-01-01 00:00:02";
   static constexpr std::string_view kFirstSelected = "Photo, 1970-01-01 00:00:01, selected";
@@ -216,11 +207,7 @@ class Selection : public PhotosUI, public ::testing::WithParamInterface<std::str
     phone_.launchHere(device::kPhotos);
   }
 
-  void select(std::initializer_list<std::string_view> photos) const {
-    me_.tap("Select");
-    for (const auto photo : photos) me_.tap(photo);
-  }
-  static Object grid() { return ask<"_currentToolbarViewController", Object>(navigation()); }
+  static Object grid() { return ask<"_currentToolbarViewController", Object>(PhotosApp::navigation()); }
   static NSUInteger selected() { return ask<"count", NSUInteger>(ask<"selectedAssets", Object>(grid())); }
 
   const std::int64_t pets_ = library_.addAlbum("Pets");
@@ -231,30 +218,17 @@ class Selection : public PhotosUI, public ::testing::WithParamInterface<std::str
 INSTANTIATE_TEST_SUITE_P(PhotosUI, Selection, ::testing::Values("Pets", "Photos"),
                          [](const auto& grid) { return grid.param; });
 
-TEST_P(Selection, IsMadeByTouchingPhotosAndEndsWithCancel) {
+TEST_P(Selection, IsMadeByTouchingPhotosAndEndsAddedToAnAlbumOrCancelled) {
   me_.tap(GetParam());
   me_.tap(kFirst);
   EXPECT_EQ(selected(), 0u);
-  me_.tap("Select");
+  me_.tap(kSelect);
   EXPECT_EQ(me_.sees("Remove"), GetParam() == "Pets");
   for (const std::string_view button : {"Delete", "Add To"}) me_.tap(button);
   EXPECT_FALSE(me_.hasAlert() || me_.sees("Add 0 Photos to an album")) << "nothing is selected";
   for (const std::string_view photo : {kFirst, kSecond}) me_.tap(photo);
-  EXPECT_EQ(selected(), 2u);
-  me_.tap("Photo, 1970-01-01 00:00:02, selected");
-  EXPECT_TRUE(me_.sees(kFirstSelected) && me_.sees(kSecond));
-  EXPECT_EQ(selected(), 1u);
   EXPECT_TRUE((ask<"selectedAssets", Object>(grid()).isKindOf(objc_getClass("NSSet"))));
-  library_.setHidden(second_, true);
-  me_.tap("Cancel");
-  EXPECT_TRUE(me_.sees(kFirst) && !me_.sees(kSecond)) << "fetched again";
-  EXPECT_EQ(selected(), 0u);
-  EXPECT_FALSE(me_.sees("Add To"));
-}
-
-TEST_P(Selection, IsAddedToTheAlbumThatIsPicked) {
-  me_.tap(GetParam());
-  select({kFirst, kSecond});
+  EXPECT_EQ(selected(), 2u);
   me_.tap("Add To");
   EXPECT_FALSE(me_.sees("Edit") || me_.sees(kFirstSelected));
   me_.tap("Cancel");
@@ -269,18 +243,27 @@ TEST_P(Selection, IsAddedToTheAlbumThatIsPicked) {
   EXPECT_TRUE(me_.sees("Select") && !me_.sees("Inner"));
   ASSERT_TRUE(soon([&] { return library_.assetsInAlbum(inner_).size() == 1; }));
   EXPECT_EQ(library_.assetsInAlbum(inner_).front().identifier, second_);
+
+  for (const std::string_view text : {kSelect, kFirst, kFirstSelected}) me_.tap(text);
+  EXPECT_TRUE(me_.sees(kFirst));
+  me_.tap(kFirst);
+  library_.setHidden(second_, true);
+  me_.tap("Cancel");
+  EXPECT_TRUE(me_.sees(kFirst) && !me_.sees(kSecond)) << "fetched again";
+  EXPECT_EQ(selected(), 0u);
+  EXPECT_FALSE(me_.sees("Add To"));
 }
 
 TEST_F(Selection, IsTakenOutOfItsAlbumOrDeletedOnceThatIsConfirmed) {
   me_.tap("Pets");
-  select({kSecond});
+  for (const auto text : {kSelect, kSecond}) me_.tap(text);
   me_.tap("Remove");
   me_.waitToSee("Select");
   EXPECT_TRUE(me_.sees(kFirst) && !me_.sees(kSecond));
   EXPECT_EQ(library_.assetsInAlbum(pets_).size(), 1u);
   EXPECT_EQ(library_.allAssets().size(), 2u);
 
-  select({kFirst});
+  for (const auto text : {kSelect, kFirst}) me_.tap(text);
   me_.tap("Delete");
   EXPECT_EQ(me_.alert().buttons, (Titles{"Delete 1 Photo", "Cancel"}));
   me_.tap("Cancel");

@@ -1,30 +1,16 @@
-// The picture of the screen: which elements it has, where, and in which order. This process is an app whose
-// screen is empty.
+// The picture of the screen: which elements it has, where, and in which order.
 
 #include "device/user/picture.hpp"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
 
 #include "tests/device/frameworks/plain_phone.hpp"
 
 namespace velvault12 {
 namespace {
 
-class Picture : public PlainPhone {
+class Picture : public EmptyScreen {
  protected:
-  Picture() { phone_.launchHere(device::kSpringBoard); }
-
-  static UIView window() { return UIApplication::sharedApplication().keyWindow(); }
-
-  template <class View = UIView>
-  static View add(CGRect frame, std::string_view text = "", UIView parent = window()) {
-    const View made = makeObject<View, "initWithFrame:">(frame).autorelease();
-    if (!text.empty()) ask<"setAccessibilityLabel:">(made, NSString::from(text));
-    parent.addSubview(made);
-    return made;
-  }
   /// Whether the screen's picture, which is well formed, has these texts in this order.
   static ::testing::AssertionResult has(std::initializer_list<std::string_view> texts) {
     const std::string svg = device::screenPicture();
@@ -97,11 +83,11 @@ TEST_F(Picture, HasTextAsThePhoneWritesIt) {
 
 TEST_F(Picture, HasImagesAsSharpAsTheyAre) {
   const std::string png = "\x89PNG\r\n\x1a\n";
-  std::ofstream(phone_.onDisk("/var/mobile/lock.png")) << png;
-  std::ofstream(phone_.onDisk("/var/mobile/lock@2x.png")) << png << "sharp";
+  write("/var/mobile/lock.png", png);
+  write("/var/mobile/lock@2x.png", png + "sharp");
   const auto view = UIImageView::make(UIImage::contentsOfFile("/var/mobile/lock.png").get());
   view->setFrame({{1, 2}, {3, 4}});
-  window().addSubview(view.get());
+  screen().addSubview(view.get());
   EXPECT_TRUE(has({R"("lock" data-frame="1 2 3 4")", R"(width="3" height="4" preserveAspectRatio="none")",
                    R"(href="data:image/png;base64,iVBORw0KGgpzaGFycA==")"}));
 }
@@ -121,7 +107,7 @@ TEST_F(Picture, BlursWhatIsBehindGlass) {
     const auto effect = ask<"effectWithStyle:", Object>(hostType<"UIBlurEffect">(), NSInteger{2});
     const auto view = makeObject<HostClass<"UIVisualEffectView", UIView>, "initWithEffect:">(effect);
     view->setFrame(frame);
-    window().addSubview(view.get());
+    screen().addSubview(view.get());
     return UIView(view.get());
   };
   const UIView view = glass({{10, 10}, {50, 50}});

@@ -5,7 +5,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "host/uikit.hpp"
 #include "tests/phone_test.hpp"
@@ -25,11 +24,10 @@ Result ask(Object receiver, Arguments... arguments) {
   return receiver.send<Selector, Result(Arguments...)>(arguments...);
 }
 
-/// A phone as it leaves the factory: nothing is injected into its apps. The test's own process may become one
-/// of them, once: ctest runs each case in a process of its own.
-class PlainPhone : public ::testing::Test {
+/// A phone as it leaves the factory: nothing is injected into its apps.
+class PlainPhone : public PhoneTest {
  protected:
-  using Titles = std::vector<std::string>;
+  PlainPhone() { remove("/Library/MobileSubstrate"); }
 
   /// Whether the step ends with an Objective-C exception.
   template <class Step>
@@ -53,20 +51,27 @@ class PlainPhone : public ::testing::Test {
     }
     return "";
   }
-  static bool soon(const std::function<bool()>& condition) {
-    return device::runUntil(condition, device::kPatience);
-  }
   static NSUInteger references(Object object) { return object.send<"retainCount", NSUInteger()>(); }
-  static NSIndexPath pathTo(NSInteger item) {
-    return ask<"indexPathForItem:inSection:", NSIndexPath>(hostType<"NSIndexPath">(), item, NSInteger{0});
-  }
 
- private:
-  TemporaryFolder folder_;
-
- protected:
-  device::Device phone_{folder_.path() / "phone"};
   AutoreleasePool pool_;
+};
+
+/// This process is an app whose screen is empty.
+class EmptyScreen : public PlainPhone {
+ protected:
+  EmptyScreen() { phone_.launchHere(device::kSpringBoard); }
+
+  static UIView window() { return UIApplication::sharedApplication().keyWindow(); }
+  static UIViewController root() { return ask<"rootViewController", UIViewController>(window()); }
+  static UIView screen() { return ask<"view", UIView>(root()); }
+
+  template <class View = UIView>
+  static View add(CGRect frame, std::string_view text = "", UIView parent = screen()) {
+    const View made = makeObject<View, "initWithFrame:">(frame).autorelease();
+    if (!text.empty()) ask<"setAccessibilityLabel:">(made, NSString::from(text));
+    parent.addSubview(made);
+    return made;
+  }
 };
 
 }  // namespace velvault12

@@ -1,4 +1,4 @@
-// UIKit as an app's own code uses it. This process is an app whose screen is empty.
+// UIKit as an app's own code uses it.
 
 #include <gtest/gtest.h>
 
@@ -21,21 +21,18 @@ namespace {
 using Style = UIAlertAction::Style;
 
 /// What the test's own classes were told, and what they are to answer.
-struct Witnessed {
-  std::vector<std::string> calls;
-  bool allows = true;
-} witnessed;
+std::vector<std::string> witnessed;
+bool isAllowed = true;
 
-void note(std::string_view what) { witnessed.calls.emplace_back(what); }
-std::vector<std::string> noted() { return std::exchange(witnessed.calls, {}); }
+void note(std::string_view what) { witnessed.emplace_back(what); }
+std::vector<std::string> noted() { return std::exchange(witnessed, {}); }
 std::string titleOf(Object object) { return object.trySend<"title", NSString()>().utf8(); }
-void label(UIView view, std::string_view text) { ask<"setAccessibilityLabel:">(view, NSString::from(text)); }
 
 template <Name What, class... Arguments>
 void told(Object self, Arguments...) {
   note(titleOf(self) + What.text);
 }
-bool allows(Object, Object) { return witnessed.allows; }
+bool allows(Object, Object) { return isAllowed; }
 void acted(Object, Object sender) {
   const auto recognizer = sender.as<UIGestureRecognizer>();
   note(recognizer ? "state " + std::to_string(static_cast<int>(recognizer.state())) : "touched");
@@ -43,10 +40,9 @@ void acted(Object, Object sender) {
 using TestController = HostClass<"TestController", UIViewController>;
 using TestView = HostClass<"TestView", UIView>;
 
-class UIKit : public PlainPhone {
+class UIKit : public EmptyScreen {
  protected:
   UIKit() {
-    phone_.launchHere(device::kSpringBoard);
     ClassPair(classNamed<"UIViewController">(), "TestController")
         .method<told<" loaded">>(selector<"viewDidLoad">(), "v@:")
         .method<told<" will appear", bool>>(selector<"viewWillAppear:">(), "v@:C")
@@ -65,21 +61,10 @@ class UIKit : public PlainPhone {
     witness_ = makeObject<HostClass<"Witness">>().autorelease();
   }
 
-  static UIView window() { return UIApplication::sharedApplication().keyWindow(); }
-  static UIViewController root() { return ask<"rootViewController", UIViewController>(window()); }
   static void setRoot(UIViewController controller) { ask<"setRootViewController:">(window(), controller); }
-  static UIView screen() { return ask<"view", UIView>(root()); }
-
-  template <class View = UIView>
-  static View add(CGRect frame, UIView parent = screen(), std::string_view text = "") {
-    const View made = makeObject<View, "initWithFrame:">(frame).autorelease();
-    label(made, text);
-    parent.addSubview(made);
-    return made;
-  }
   UIView addButton(std::string_view title, CGRect frame, UIView parent = screen()) const {
     constexpr NSUInteger kTouchUpInside = 1 << 6;
-    const auto button = add<HostClass<"UIButton", UIView>>(frame, parent, title);
+    const auto button = add<HostClass<"UIButton", UIView>>(frame, title, parent);
     ask<"addTarget:action:forControlEvents:">(button, witness_, selector<"acted:">(), kTouchUpInside);
     return button;
   }
@@ -109,7 +94,7 @@ class UIKit : public PlainPhone {
     ask<"addAction:">(alert, UIAlertAction::make(NSString::from(title), style, handler));
   }
   static Titles notedOnceThereAre(std::size_t count) {
-    soon([count] { return witnessed.calls.size() >= count; });
+    soon([count] { return witnessed.size() >= count; });
     return noted();
   }
 
@@ -124,7 +109,7 @@ TEST_F(UIKit, FramesAndPointsFollowFromCentreBoundsAndTransform) {
   view.setCenter({100, 100});
   ask<"setBounds:">(view, CGRect{{7, 30}, {50, 60}});
   EXPECT_EQ(view.frame(), (CGRect{{75, 70}, {50, 60}})) << "it grows around its centre";
-  const UIView inner = add({{5, 36}, {10, 10}}, view);
+  const UIView inner = add({{5, 36}, {10, 10}}, "", view);
   const std::pair<UIView, CGPoint> places[] = {{UIView(), {74, 77}}, {other, {73, 75}}, {view, {6, 37}}};
   for (const auto& [to, place] : places) {
     EXPECT_EQ((ask<"convertPoint:toView:", CGPoint>(inner, CGPoint{1, 1}, to)), place);
@@ -135,7 +120,8 @@ TEST_F(UIKit, FramesAndPointsFollowFromCentreBoundsAndTransform) {
 }
 
 TEST_F(UIKit, TheTreeKeepsItsOrder) {
-  const UIView parent = add({}), a = add({}, parent, "a"), b = add({}, parent, "b"), c = add({}, parent, "c");
+  const UIView parent = add({}), a = add({}, "a", parent), b = add({}, "b", parent);
+  add({}, "c", parent);
   const auto order = [&] {
     std::string names;
     for (const Object view : parent.subviews()) names += ask<"accessibilityLabel", NSString>(view).utf8();
@@ -146,8 +132,6 @@ TEST_F(UIKit, TheTreeKeepsItsOrder) {
   ask<"bringSubviewToFront:">(parent, b);
   ask<"insertSubview:atIndex:">(parent, a, NSInteger{0});
   EXPECT_EQ(order(), "acb");
-  b.addSubview(c);
-  EXPECT_EQ(order(), "ab") << "a view has one parent";
   EXPECT_TRUE(raises([&] { parent.addSubview(parent); }));
 }
 
@@ -203,7 +187,7 @@ TEST_F(UIKit, WhatIsNotOnScreenIsNeitherSeenNorTouched) {
   };
   for (const auto& [name, outcome, change] : cases) {
     SCOPED_TRACE(name);
-    parent = add({{10, 100}, {200, 200}}, add(kScreen));
+    parent = add({{10, 100}, {200, 200}}, "", add(kScreen));
     button = addButton("Press", {{10, 10}, {50, 20}}, parent);
     change();
     EXPECT_EQ(me_.sees("Press"), outcome != kGone);
@@ -215,7 +199,7 @@ TEST_F(UIKit, WhatIsNotOnScreenIsNeitherSeenNorTouched) {
 
 TEST_F(UIKit, AFingerMovesTheNearestRecognizerThatTakesIt) {
   const UIView outer = add({{20, 100}, {200, 200}});
-  const UIView inner = add<TestView>({{10, 10}, {50, 50}}, outer, "Inner");
+  const UIView inner = add<TestView>({{10, 10}, {50, 50}}, "Inner", outer);
   const auto outerPress = addRecognizer(outer), innerPress = addRecognizer(inner);
   ask<"setDelegate:">(outerPress, witness_);
   me_.screen();
@@ -229,7 +213,7 @@ TEST_F(UIKit, AFingerMovesTheNearestRecognizerThatTakesIt) {
   for (const auto& [outerIsOn, innerIsOn, allowed, states, what] : cases) {
     ask<"setEnabled:">(outerPress, outerIsOn);
     ask<"setEnabled:">(innerPress, innerIsOn);
-    witnessed.allows = allowed;
+    isAllowed = allowed;
     me_.longPress("Inner");
     EXPECT_EQ(noted(), states) << what;
   }
@@ -249,14 +233,14 @@ void animate(std::function<void()> change, double seconds, double delay = 0, NSU
 }
 
 TEST_F(UIKit, AnAnimationSetsValuesAtOnceAndShowsTheWayToThem) {
-  const UIView view = add({{0, 100}, {50, 20}}, screen(), "View");
+  const UIView view = add({{0, 100}, {50, 20}}, "View");
   animate([&] { view.setFrame({{100, 100}, {50, 20}}); }, 0.3);
   EXPECT_EQ(view.frame().origin, (CGPoint{100, 100}));
   std::vector<double> way;
   do {
     const std::string shown = me_.screen();
     way.push_back(std::stod(shown.substr(shown.find("\"View\" (") + 8)));
-  } while (!device::runUntil([] { return !witnessed.calls.empty(); }, std::chrono::milliseconds(10)));
+  } while (!device::runUntil([] { return !witnessed.empty(); }, std::chrono::milliseconds(10)));
   EXPECT_TRUE(std::ranges::is_sorted(way));
   EXPECT_TRUE(std::ranges::any_of(way, [](double left) { return left > 0 && left < 100; }));
   EXPECT_NE(me_.screen().find("\"View\" (100 "), std::string::npos);

@@ -24,12 +24,6 @@ class User : public PlainPhone, public ::testing::WithParamInterface<Through> {
     app_.emplace(phone_.launch(app));
     return app_->user();
   }
-  /// The first of the texts that the user does not see, "" when all are on screen.
-  static std::string_view missing(const device::User& me, std::initializer_list<std::string_view> texts) {
-    for (const std::string_view text : texts)
-      if (!me.sees(text)) return text;
-    return "";
-  }
 
   device::PhotoDatabase library_ = phone_.photoLibrary();
 
@@ -52,7 +46,8 @@ TEST_P(User, GoesThroughAllOfPhotos) {
   GSDebugAllocationActive(1);
   const device::User& me = open(device::kPhotos);
 
-  EXPECT_EQ(missing(me, {"My Albums", "See All", "Photos", "1", "Edit", "Albums"}), "");
+  for (const auto* const text : {"My Albums", "See All", "Photos", "1", "Edit", "Albums"})
+    EXPECT_TRUE(me.sees(text)) << text;
   EXPECT_FALSE(me.sees("Album 19"));
   me.tap("Photos");
   EXPECT_TRUE(me.sees(photo));
@@ -62,7 +57,7 @@ TEST_P(User, GoesThroughAllOfPhotos) {
   me.tap("Edit");
   me.tap("Fjords");
   me.tap("Photos");
-  EXPECT_EQ(missing(me, {photo, video}), "") << "the whole library";
+  EXPECT_TRUE(me.sees(photo) && me.sees(video)) << "the whole library";
   me.tap("Albums");
   EXPECT_FALSE(me.sees(photo) || me.sees("See All")) << "the tab is where it was left";
   me.tap("Albums");
@@ -96,19 +91,6 @@ TEST_P(User, IsToldWhatWasOnScreenWhenAStepCannotBeDone) {
   EXPECT_NE(refusal([&] { me.tap("Albums"); }), "") << "another app is in front";
   me.returnToApp();
   EXPECT_TRUE(me.sees("Delete Pets")) << "it is where it was left";
-}
-
-TEST_P(User, ReadsTheGalleryOfAnotherApp) {
-  const auto pets = library_.addAlbum("Pets");
-  const auto fjords = library_.addAlbum("Fjords", library_.addFolder("Trips"));
-  library_.addToAlbum(library_.addAsset({.isFavorite = true}), pets);
-  const device::User& me = open(device::kGallery);
-  EXPECT_EQ(missing(me, {"Camera Roll", "Favorites", "Pets", "Trips", "Pets: 1 photos", "Fjords: 0 photos"}),
-            "");
-  for (const auto* const row : {"Videos", "Fjords"}) EXPECT_FALSE(me.sees(row)) << "none, or in a folder";
-  library_.addToAlbum(library_.addAsset({.mediaType = device::MediaType::video}), fjords);
-  me.tap("Refresh");
-  EXPECT_EQ(missing(me, {"Videos", "Fjords: 1 photos"}), "");
 }
 
 }  // namespace
