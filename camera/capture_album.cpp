@@ -10,7 +10,7 @@
 namespace velvault12 {
 
 void CaptureAlbum::readAtStart() {
-  title_ = captureAlbumAtStart(readFirstString(kCaptureAlbumFile), settings().rememberDefault);
+  title_ = captureAlbumAtStart(readFirstString(kCaptureAlbumFile), settings()->rememberDefault);
 }
 
 void CaptureAlbum::choose(std::string title) {
@@ -20,6 +20,6 @@ void CaptureAlbum::choose(std::string title) {
 
 CaptureAlbum& captureAlbum() { return processWide<CaptureAlbum>(); }
 
-bool isPickerOn() { return settings().enabled && settings().enableCameraPicker; }
+bool isPickerOn() { return settings()->enabled && settings()->enableCameraPicker; }
 
 }  // namespace velvault12

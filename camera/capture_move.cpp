@@ -80,7 +80,7 @@ void movePhoto(CAMCaptureEngine) {
   // Once for both steps: by the time that a new album takes its photo, the photo has been hidden.
   const Ref<PHAsset> photo = newestPhoto();
   addToAlbum(photo, NSString::from(captureAlbum().title()));
-  if (photo && settings().pickerMovePhotos) PUAssetHidingHelper::apply(true, NSArray::of(photo.get()));
+  if (photo && settings()->pickerMovePhotos) PUAssetHidingHelper::apply(true, NSArray::of(photo.get()));
 }
 
 }  // namespace velvault12

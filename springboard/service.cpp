@@ -66,7 +66,7 @@ NSDictionary serveAuthenticate(SpringBoard, NSString, Object userInfo) {
   const Ref<NSMutableDictionary> reply = mutableCopy(request);
   reply->set(key::kSender, NSBundle::mainBundle().bundleIdentifier());
   reply->set(key::kType, NSString::from("SpringBoard"));
-  switch (authenticationStep(settings().passOption)) {
+  switch (authenticationStep(settings()->passOption)) {
     case AuthenticationStep::answerNo:
       answer(reply.get(), false);
       break;

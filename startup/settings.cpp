@@ -1,5 +1,8 @@
 #include "startup/settings.hpp"
 
+#include <mutex>
+#include <utility>
+
 #include "host/foundation.hpp"
 #include "host/process_wide.hpp"
 #include "startup/shared_files.hpp"
@@ -20,10 +23,31 @@ Preferences readPreferences() {
   return preferences;
 }
 
+class SettingsInForce {
+ public:
+  std::shared_ptr<const Settings> get() const {
+    const std::lock_guard lock(mutex_);
+    return settings_;
+  }
+  void set(std::shared_ptr<const Settings> read) {
+    // What they replace goes after the lock, with the parameter.
+    const std::lock_guard lock(mutex_);
+    settings_.swap(read);
+  }
+
+ private:
+  mutable std::mutex mutex_;
+  std::shared_ptr<const Settings> settings_ = std::make_shared<Settings>();
+};
+
 }  // namespace
 
-Settings& settings() { return processWide<Settings>(); }
+std::shared_ptr<const Settings> settings() { return processWide<SettingsInForce>().get(); }
 
-void loadSettings() { applyPreferences(settings(), readPreferences()); }
+void loadSettings() {
+  auto read = std::make_shared<Settings>(*settings());
+  applyPreferences(*read, readPreferences());
+  processWide<SettingsInForce>().set(std::move(read));
+}
 
 }  // namespace velvault12

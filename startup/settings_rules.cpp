@@ -92,6 +92,12 @@ void collectAlbumFlags(Settings& settings, const Preferences& preferences) {
 
 }  // namespace
 
+std::optional<bool> Settings::albumFlag(std::string_view title) const {
+  const auto found = albumFlags.find(std::string(kAlbumFlagMark).append(title));
+  if (found == albumFlags.end()) return std::nullopt;
+  return found->second;
+}
+
 void applyPreferences(Settings& settings, const Preferences& preferences) {
   for (const SettingRow& row : kRows) {
     const auto found = preferences.find(std::string(row.key));

@@ -16,7 +16,7 @@ struct PreferenceValue {
 
 using Preferences = std::unordered_map<std::string, PreferenceValue>;
 
-/// The user's choices, one member for each key of the preferences and named as it. Main thread only.
+/// The user's choices, one member for each key of the preferences and named as it.
 struct Settings {
   bool enabled = true;
 
@@ -76,6 +76,9 @@ struct Settings {
 
   /// The switches of single albums, under their whole key: "albumName" followed by the title.
   std::unordered_map<std::string, bool> albumFlags;
+
+  /// Whether the album of that title is to be shown; nothing for one without a switch.
+  std::optional<bool> albumFlag(std::string_view title) const;
 };
 
 /// Overwrites every setting with what the preferences say, or its default. An album's flag whose key is gone

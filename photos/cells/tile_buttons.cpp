@@ -62,7 +62,7 @@ void layOutButton(PUAlbumListCellContentView tile, TileButton kind) {
 void tileSetEditing(PUAlbumListCellContentView tile, Replaced<void(bool, bool)> host, bool editing,
                     bool animated) {
   host(editing, animated);
-  if (editing && settings().enabled) createButtons(tile);
+  if (editing && settings()->enabled) createButtons(tile);
 }
 
 void createButtons(PUAlbumListCellContentView tile) {

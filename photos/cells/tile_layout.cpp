@@ -97,7 +97,7 @@ void showLock(PUAlbumListCellContentView tile, bool isLocked) {
 
 template <class Text>
 void setFontSize(Text text, bool isShown) {
-  const std::optional<int> size = tileFontSize(isShown, settings().layoutFontSize);
+  const std::optional<int> size = tileFontSize(isShown, settings()->layoutFontSize);
   if (size) text.setFont(UIFont::systemFontOfSize(*size));
 }
 
@@ -105,7 +105,7 @@ void setFontSize(Text text, bool isShown) {
 
 void layOutTile(PUAlbumListCellContentView tile, Replaced<void()> host) {
   host();
-  if (!settings().enabled) {
+  if (!settings()->enabled) {
     showLock(tile, false);
     removeButtons(tile);
     return;
@@ -118,12 +118,12 @@ void layOutTile(PUAlbumListCellContentView tile, Replaced<void()> host) {
   showLock(tile, albumLock().isLocked(title.utf8()));
   tile.setHidden(false);
   layOutButtons(tile);
-  setFontSize(tile.titleTextField(), settings().layoutShowTitle);
-  setFontSize(tile.subtitleLabel(), settings().layoutShowSubtitle);
+  setFontSize(tile.titleTextField(), settings()->layoutShowTitle);
+  setFontSize(tile.subtitleLabel(), settings()->layoutShowSubtitle);
 }
 
 NSString tileTitle(PUAlbumListCellContentView, Replaced<NSString()> host) {
-  return settings().enabled && !settings().layoutShowTitle ? NSString::from("") : host();
+  return settings()->enabled && !settings()->layoutShowTitle ? NSString::from("") : host();
 }
 
 }  // namespace velvault12

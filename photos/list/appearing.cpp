@@ -19,7 +19,7 @@ void reloadLockedAlbums() {
 
 void stripWillAppear(PUHorizontalAlbumListGadget strip, Replaced<void(bool)> host, bool animated) {
   host(animated);
-  if (!settings().enabled) return;
+  if (!settings()->enabled) return;
   tileMeasures().overlaySide = albumSize(UIScreen::mainScreen().bounds().size.width);
   reloadLockedAlbums();
   controllerRegistry().lastRequesting = Ref<Object>(strip);
@@ -28,7 +28,7 @@ void stripWillAppear(PUHorizontalAlbumListGadget strip, Replaced<void(bool)> hos
 void listWillAppear(PUAlbumListViewController list, Replaced<void(bool)> host, bool animated) {
   host(animated);
   controllerRegistry().albumList = Ref<Object>(list);
-  if (settings().enabled) reloadLockedAlbums();
+  if (settings()->enabled) reloadLockedAlbums();
 }
 
 void listDidLayoutSubviews(PUAlbumListViewController list, Replaced<void()> host) {

@@ -20,7 +20,7 @@ void answerArrived() {
   const bool success = boolValue(answer[key::kSuccess]).value_or(false);
   // Kept while it works: what it does may record another object in its place.
   const Ref<Object> receiver = controllerRegistry().receiver(answerReceiver(className));
-  switch (answerStep(success, settings().passOption)) {
+  switch (answerStep(success, settings()->passOption)) {
     case AnswerStep::unlock:
       receiver->trySend<"unlockAuthorised:", void(int)>(method);
       break;

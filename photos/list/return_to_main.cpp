@@ -7,13 +7,13 @@
 namespace velvault12 {
 
 void appEnteredBackground(PhotosApplication app, Replaced<void(UIApplication)> host, UIApplication argument) {
-  if (settings().enabled) returnToMainView(app);
+  if (settings()->enabled) returnToMainView(app);
   host(argument);
 }
 
 void returnToMainView(PhotosApplication app) {
-  const Settings& chosen = settings();
-  if (!returnsToMainView(chosen.returnToMainDefault, chosen.returnToMainLocked,
+  const auto chosen = settings();
+  if (!returnsToMainView(chosen->returnToMainDefault, chosen->returnToMainLocked,
                          albumLock().lockedAlbumOpened))
     return;
   app.tabbedLibraryViewController().selectedNavigationController().popToRoot(true);
