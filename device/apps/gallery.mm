@@ -1,65 +1,63 @@
 #import "device/frameworks/Photos/Photos.h"
+#import "device/frameworks/PhotosUI/PUAlbumListCell.h"
+#import "device/frameworks/PhotosUI/PUPhotosGridViewController.h"
+#import "device/frameworks/PhotosUI/PXNavigationList.h"
 #import "device/frameworks/UIKit/UIKit.h"
 
-// Any app that reads the photo library, as a picker does.
+// Any app that reads the photo library, as a picker does, or shows it off in a shop.
 
 namespace {
 
 NSString* const kCell = @"GalleryCell";
-constexpr CGFloat kRowHeight = 20;
+NSString* const kAlbums = @"Albums";
+NSString* const kFetched = @"Fetched";
+constexpr CGFloat kRowHeight = 24;
+constexpr CGFloat kTextSize = 15;
+
+PHFetchResult* everyAlbumOfType(NSInteger type) {
+  return [PHAssetCollection fetchAssetCollectionsWithType:type
+                                                  subtype:PHAssetCollectionSubtypeAny
+                                                  options:nil];
+}
 
 NSArray* smartAlbumsInUse() {
   NSMutableArray* inUse = [NSMutableArray array];
-  for (PHAssetCollection* album in
-       [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeSmartAlbum
-                                                subtype:PHAssetCollectionSubtypeAny
-                                                options:nil]) {
+  for (PHAssetCollection* album in everyAlbumOfType(PHAssetCollectionTypeSmartAlbum)) {
     if ([[PHAsset fetchAssetsInAssetCollection:album options:nil] count]) [inUse addObject:album];
   }
   return inUse;
 }
 
 PHCollectionList* everyCollection() {
+  PHFetchResult* imports = everyAlbumOfType(PHAssetCollectionTypeImportHistory);
   PHFetchResult* topLevel = [PHCollection fetchTopLevelUserCollectionsWithOptions:nil];
-  NSArray* all = [smartAlbumsInUse() arrayByAddingObjectsFromArray:[topLevel fetchedObjects]];
-  return [PHCollectionList transientCollectionListWithCollections:all title:@"Albums"];
+  NSArray* all = [smartAlbumsInUse() arrayByAddingObjectsFromArray:[imports fetchedObjects]];
+  all = [all arrayByAddingObjectsFromArray:[topLevel fetchedObjects]];
+  return [PHCollectionList transientCollectionListWithCollections:all title:kAlbums];
+}
+
+NSString* photos(NSUInteger count) { return [PUNumberOfPhotos(count) lowercaseString]; }
+
+/// What the app is told without a fetch, where that is possible.
+NSString* estimateOf(PHCollection* collection) {
+  if (![collection isKindOfClass:[PHAssetCollection class]]) return @"Folder";
+  PHAssetCollection* album = static_cast<PHAssetCollection*>(collection);
+  const NSUInteger estimate = [album estimatedAssetCount];
+  if (estimate != NSNotFound) return photos(estimate);
+  return photos([[PHAsset fetchAssetsInAssetCollection:album options:nil] count]);
+}
+
+NSString* countOf(PHAssetCollection* album) {
+  PHFetchResult* assets = [PHAsset fetchAssetsInAssetCollection:album options:nil];
+  return assets ? photos([assets count]) : @"nothing";
 }
 
 }  // namespace
 
-@interface GalleryCell : UICollectionViewCell {
-  UILabel* _label;
-}
-@property(nonatomic, readonly) UILabel* label;
-@end
-
-@implementation GalleryCell
-
-@synthesize label = _label;
-
-- (id)initWithFrame:(CGRect)frame {
-  self = [super initWithFrame:frame];
-  if (!self) return nil;
-  _label = [[UILabel alloc] init];
-  [[self contentView] addSubview:_label];
-  return self;
-}
-
-- (void)dealloc {
-  [_label release];
-  [super dealloc];
-}
-
-- (void)layoutSubviews {
-  [super layoutSubviews];
-  [_label setFrame:[[self contentView] bounds]];
-}
-
-@end
-
-/// A row "<title>" for each collection of the list, and one "<title>: <count> photos" for each user album
-/// that can be fetched, wherever it is kept.
+/// Under "Albums", all that the app finds there is: "<title>: 3 photos". Under "Fetched", each user album
+/// that can be fetched, wherever it is kept, and what can be fetched of it: "fetched <title>: 3 photos".
 @interface GalleryViewController : UICollectionViewController {
+  /// Headings and collections.
   NSArray* _rows;
 }
 @end
@@ -86,7 +84,7 @@ PHCollectionList* everyCollection() {
 
 - (void)viewDidLoad {
   [super viewDidLoad];
-  [[self collectionView] registerClass:[GalleryCell class] forCellWithReuseIdentifier:kCell];
+  [[self collectionView] registerClass:[PXNavigationListCell class] forCellWithReuseIdentifier:kCell];
 }
 
 - (void)viewWillAppear:(BOOL)animated {
@@ -95,17 +93,10 @@ PHCollectionList* everyCollection() {
 }
 
 - (void)_refresh {
-  NSMutableArray* rows = [NSMutableArray array];
-  for (PHCollection* collection in [everyCollection() collections])
-    [rows addObject:[collection localizedTitle]];
-  for (PHAssetCollection* album in
-       [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeAlbum
-                                                subtype:PHAssetCollectionSubtypeAny
-                                                options:nil]) {
-    const NSUInteger count = [[PHAsset fetchAssetsInAssetCollection:album options:nil] count];
-    [rows addObject:[NSString stringWithFormat:@"%@: %lu photos", [album localizedTitle],
-                                               static_cast<unsigned long>(count)]];
-  }
+  NSMutableArray* rows = [NSMutableArray arrayWithObject:kAlbums];
+  for (PHCollection* collection in [everyCollection() collections]) [rows addObject:collection];
+  [rows addObject:kFetched];
+  for (PHCollection* album in everyAlbumOfType(PHAssetCollectionTypeAlbum)) [rows addObject:album];
   [_rows release];
   _rows = [rows copy];
   [[self collectionView] reloadData];
@@ -116,9 +107,38 @@ PHCollectionList* everyCollection() {
 }
 
 - (UICollectionViewCell*)collectionView:(UICollectionView*)view cellForItemAtIndexPath:(NSIndexPath*)path {
-  GalleryCell* cell = [view dequeueReusableCellWithReuseIdentifier:kCell forIndexPath:path];
-  [[cell label] setText:[_rows objectAtIndex:static_cast<NSUInteger>([path item])]];
+  PXNavigationListCell* cell = [view dequeueReusableCellWithReuseIdentifier:kCell forIndexPath:path];
+  const NSUInteger item = static_cast<NSUInteger>([path item]);
+  id row = [_rows objectAtIndex:item];
+  if ([row isKindOfClass:[NSString class]]) {
+    [self _fill:cell withHeading:row];
+  } else {
+    [self _fill:cell with:row fetched:item > [_rows indexOfObject:kFetched]];
+  }
   return cell;
+}
+
+- (void)_fill:(PXNavigationListCell*)cell withHeading:(NSString*)heading {
+  [[cell contentView] setBackgroundColor:[UIColor colorWithWhite:0.93 alpha:1]];
+  [[cell contentView] setAccessibilityLabel:nil];
+  [[cell titleLabel] setFont:[UIFont boldSystemFontOfSize:kTextSize]];
+  [[cell titleLabel] setText:heading];
+  [[cell detailLabel] setText:nil];
+  [cell _setColors:nil];
+}
+
+- (void)_fill:(PXNavigationListCell*)cell with:(PHCollection*)collection fetched:(bool)fetched {
+  PUAlbumListCellContentViewHelper* helper = [[[PUAlbumListCellContentViewHelper alloc] init] autorelease];
+  NSString* title = [collection localizedTitle];
+  NSString* detail = fetched ? countOf(static_cast<PHAssetCollection*>(collection)) : estimateOf(collection);
+  NSString* format = fetched ? @"fetched %@: %@" : @"%@: %@";
+  [[cell contentView] setBackgroundColor:[UIColor whiteColor]];
+  [[cell contentView] setAccessibilityLabel:[NSString stringWithFormat:format, title, detail]];
+  [[cell titleLabel] setFont:[UIFont systemFontOfSize:kTextSize]];
+  [[cell titleLabel] setText:title];
+  [[cell detailLabel] setFont:[UIFont systemFontOfSize:kTextSize]];
+  [[cell detailLabel] setText:detail];
+  [cell _setColors:[helper _colorsOfCollection:collection]];
 }
 
 @end

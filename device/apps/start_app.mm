@@ -15,10 +15,8 @@ struct InstalledApp {
 };
 
 constexpr InstalledApp kInstalledApps[] = {
-    {kSpringBoard, "SpringBoard"},
-    {kPhotos, "PhotosApplication"},
-    {kCamera, "CameraApplication"},
-    {kGallery, "GalleryApplication"},
+    {kSpringBoard, "SpringBoard"},    {kPhotos, "PhotosApplication"},    {kCamera, "CameraApplication"},
+    {kGallery, "GalleryApplication"}, {kShopDemo, "GalleryApplication"},
 };
 
 }  // namespace

@@ -10,6 +10,7 @@ inline constexpr std::string_view kSpringBoard = "com.apple.springboard";
 inline constexpr std::string_view kPhotos = "com.apple.mobileslideshow";
 inline constexpr std::string_view kCamera = "com.apple.camera";
 inline constexpr std::string_view kGallery = "org.example.gallery";
+inline constexpr std::string_view kShopDemo = "com.apple.store.Jolly";
 
 /// Which app of which device this process is.
 struct Identity {

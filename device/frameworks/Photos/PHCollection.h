@@ -9,17 +9,22 @@
 
 enum PHAssetCollectionType : NSInteger {
   PHAssetCollectionTypeAlbum = 1,
-  PHAssetCollectionTypeSmartAlbum = 2
+  PHAssetCollectionTypeSmartAlbum = 2,
+  PHAssetCollectionTypeMoment = 3,
+  PHAssetCollectionTypeImportHistory = 9,
 };
 
 enum PHAssetCollectionSubtype : NSInteger {
   PHAssetCollectionSubtypeAlbumRegular = 2,
   PHAssetCollectionSubtypeAlbumSyncedAlbum = 5,
+  PHAssetCollectionSubtypeAlbumCloudShared = 101,
+  PHAssetCollectionSubtypeSmartAlbumGeneric = 200,
   PHAssetCollectionSubtypeSmartAlbumVideos = 202,
   PHAssetCollectionSubtypeSmartAlbumFavorites = 203,
   PHAssetCollectionSubtypeSmartAlbumAllHidden = 205,
   PHAssetCollectionSubtypeSmartAlbumUserLibrary = 209,
   PHAssetCollectionSubtypeTrashBin = 1000000201,
+  PHAssetCollectionSubtypePlaces = 1000000203,
   PHAssetCollectionSubtypeAny = NSIntegerMax,
 };
 
@@ -39,12 +44,13 @@ enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
   std::int64_t _identifier;
   NSString* _localizedTitle;
 }
+/// May be nil.
 @property(nonatomic, readonly) NSString* localizedTitle;
 /// The number of an album or folder in the library, 0 for what is not kept there.
 @property(nonatomic, readonly) std::int64_t _identifier;
 /// Whether the owner may do that: anything to albums and folders of the phone's own, nothing to others.
 - (BOOL)canPerformEditOperation:(NSInteger)operation;
-/// The albums and folders at the top level.
+/// The albums and folders at the top level, without shared albums.
 + (PHFetchResult*)fetchTopLevelUserCollectionsWithOptions:(PHFetchOptions*)options;
 /// Those in a folder.
 + (PHFetchResult*)fetchCollectionsInCollectionList:(PHCollectionList*)list options:(PHFetchOptions*)options;
@@ -53,11 +59,13 @@ enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
 @interface PHAssetCollection : PHCollection {
   NSInteger _assetCollectionType;
   NSInteger _assetCollectionSubtype;
+  std::int64_t _day;
+  NSArray* _transientAssets;
 }
 @property(nonatomic, readonly) NSString* title;
 @property(nonatomic, readonly) NSInteger assetCollectionType;
 @property(nonatomic, readonly) NSInteger assetCollectionSubtype;
-/// Without the hidden ones; NSNotFound for a smart album, which has no quick estimate.
+/// Without the hidden ones; NSNotFound for a smart album or the import history, which have no quick estimate.
 @property(nonatomic, readonly) NSUInteger estimatedAssetCount;
 @property(nonatomic, readonly) BOOL isTrashBin;
 @property(nonatomic, readonly) BOOL startsAtEnd;
@@ -68,10 +76,16 @@ enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
                                         options:(PHFetchOptions*)options;
 + (PHFetchResult*)fetchAssetCollectionsWithLocalIdentifiers:(NSArray*)identifiers
                                                     options:(PHFetchOptions*)options;
+/// One for each day (in UTC) of the library's assets that are not hidden, oldest first. They have no titles.
++ (PHFetchResult*)fetchMomentsWithOptions:(PHFetchOptions*)options;
 /// Never finds a smart album.
 + (PHFetchResult*)fetchAssetCollectionsContainingAsset:(PHAsset*)asset
                                               withType:(NSInteger)type
                                                options:(PHFetchOptions*)options;
+
+/// An album that is kept nowhere and cannot be edited: these assets in their order, while the library has
+/// them.
++ (PHAssetCollection*)transientAssetCollectionWithAssets:(NSArray*)assets title:(NSString*)title;
 
 /// The smart album of all that the library holds.
 + (PHAssetCollection*)_cameraRoll;

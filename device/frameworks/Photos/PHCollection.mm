@@ -1,6 +1,8 @@
 #import "device/frameworks/Photos/PHCollection.h"
 
 #include <algorithm>
+#include <cmath>
+#include <set>
 
 #import "device/frameworks/Photos/PHAsset.h"
 #include "device/frameworks/Photos/shared_photo_database.hpp"
@@ -10,6 +12,7 @@ namespace {
 using device::AssetRow;
 using device::CollectionRow;
 using device::MediaType;
+using device::PhotoDatabase;
 using device::sharedPhotoDatabase;
 
 struct SmartAlbum {
@@ -19,11 +22,14 @@ struct SmartAlbum {
   bool (*holds)(const AssetRow& asset);
 };
 
+bool all(const AssetRow&) { return true; }
 bool none(const AssetRow&) { return false; }
 
 constexpr SmartAlbum kSmartAlbums[] = {
-    {PHAssetCollectionSubtypeSmartAlbumUserLibrary, "Camera Roll", [](const AssetRow&) { return true; }},
+    {PHAssetCollectionSubtypeSmartAlbumUserLibrary, "Camera Roll", all},
+    {1000000205, "All Photos", all},
     {206, "Recently Added", none},
+    {1000000206, "Recently Edited", none},
     {PHAssetCollectionSubtypeSmartAlbumFavorites, "Favorites",
      [](const AssetRow& asset) { return asset.isFavorite; }},
     {PHAssetCollectionSubtypeSmartAlbumVideos, "Videos",
@@ -38,11 +44,20 @@ constexpr SmartAlbum kSmartAlbums[] = {
     {211, "Screenshots", none},
     {214, "Animated", none},
     {215, "Long Exposure", none},
-    {1000000203, "Places", none},
+    {1000000207, "Screen Recordings", none},
+    {1000000208, "RAW", none},
+    {PHAssetCollectionSubtypeSmartAlbumGeneric, "People", none},
+    {PHAssetCollectionSubtypePlaces, "Places", none},
+    {216, "Unable to Upload", none},
     {PHAssetCollectionSubtypeSmartAlbumAllHidden, "Hidden",
      [](const AssetRow& asset) { return asset.isHidden; }},
     {PHAssetCollectionSubtypeTrashBin, "Recently Deleted", none},
 };
+
+std::int64_t dayOf(const AssetRow& asset) {
+  constexpr double kSecondsADay = 24 * 60 * 60;
+  return static_cast<std::int64_t>(std::floor(asset.creationDate / kSecondsADay));
+}
 
 bool belongs(const AssetRow& asset, NSInteger smartSubtype) {
   if (asset.smartSubtype == smartSubtype) return true;
@@ -61,6 +76,8 @@ bool belongs(const AssetRow& asset, NSInteger smartSubtype) {
 @interface PHAssetCollection (Making)
 + (PHAssetCollection*)_album:(const CollectionRow&)row;
 + (PHAssetCollection*)_smartAlbum:(const SmartAlbum&)album;
++ (PHAssetCollection*)_momentOfDay:(std::int64_t)day;
++ (PHAssetCollection*)_importHistory;
 @end
 
 @interface PHCollectionList (Making)
@@ -82,9 +99,32 @@ NSArray* albums(const std::vector<CollectionRow>& rows) {
   return made;
 }
 
+NSArray* moments() {
+  std::set<std::int64_t> days;
+  for (const AssetRow& row : sharedPhotoDatabase().allAssets()) {
+    if (!row.isHidden) days.insert(dayOf(row));
+  }
+  NSMutableArray* made = [NSMutableArray array];
+  for (const std::int64_t day : days) [made addObject:[PHAssetCollection _momentOfDay:day]];
+  return made;
+}
+
+NSArray* collectionsOfType(NSInteger type) {
+  if (type == PHAssetCollectionTypeAlbum) return albums(sharedPhotoDatabase().allAlbums());
+  if (type == PHAssetCollectionTypeMoment) return moments();
+  NSMutableArray* made = [NSMutableArray array];
+  if (type == PHAssetCollectionTypeSmartAlbum) {
+    for (const SmartAlbum& album : kSmartAlbums) [made addObject:[PHAssetCollection _smartAlbum:album]];
+  } else if (type == PHAssetCollectionTypeImportHistory) {
+    [made addObject:[PHAssetCollection _importHistory]];
+  }
+  return made;
+}
+
 NSArray* collectionsIn(std::int64_t folder) {
   NSMutableArray* made = [NSMutableArray array];
   for (const CollectionRow& row : sharedPhotoDatabase().collections(folder)) {
+    if (row.subtype == PHAssetCollectionSubtypeAlbumCloudShared) continue;
     [made addObject:row.isFolder ? [PHCollectionList _folder:row] : [PHAssetCollection _album:row]];
   }
   return made;
@@ -131,41 +171,71 @@ NSArray* collectionsIn(std::int64_t folder) {
 @synthesize assetCollectionType = _assetCollectionType;
 @synthesize assetCollectionSubtype = _assetCollectionSubtype;
 
++ (PHAssetCollection*)_collection:(NSString*)localIdentifier
+                            title:(NSString*)title
+                             type:(NSInteger)type
+                          subtype:(NSInteger)subtype {
+  PHAssetCollection* made = [[[self alloc] _initWithLocalIdentifier:localIdentifier identifier:0
+                                                              title:title] autorelease];
+  made->_assetCollectionType = type;
+  made->_assetCollectionSubtype = subtype;
+  return made;
+}
+
 + (PHAssetCollection*)_album:(const CollectionRow&)row {
-  PHAssetCollection* album =
-      [[[self alloc] _initWithLocalIdentifier:[self _localIdentifierOfAlbum:row.identifier]
-                                   identifier:row.identifier
-                                        title:text(row.title)] autorelease];
-  album->_assetCollectionType = PHAssetCollectionTypeAlbum;
-  album->_assetCollectionSubtype = static_cast<NSInteger>(row.subtype);
+  PHAssetCollection* album = [self _collection:[self _localIdentifierOfAlbum:row.identifier]
+                                         title:text(row.title)
+                                          type:PHAssetCollectionTypeAlbum
+                                       subtype:static_cast<NSInteger>(row.subtype)];
+  album->_identifier = row.identifier;
   return album;
 }
 
 + (PHAssetCollection*)_smartAlbum:(const SmartAlbum&)album {
-  NSString* identifier = [NSString stringWithFormat:@"smart-%ld/L0/040", static_cast<long>(album.subtype)];
-  PHAssetCollection* made = [[[self alloc] _initWithLocalIdentifier:identifier
-                                                         identifier:0
-                                                              title:text(album.title)] autorelease];
-  made->_assetCollectionType = PHAssetCollectionTypeSmartAlbum;
-  made->_assetCollectionSubtype = album.subtype;
+  return [self _collection:[NSString stringWithFormat:@"smart-%ld/L0/040", static_cast<long>(album.subtype)]
+                     title:text(album.title)
+                      type:PHAssetCollectionTypeSmartAlbum
+                   subtype:album.subtype];
+}
+
++ (PHAssetCollection*)_momentOfDay:(std::int64_t)day {
+  PHAssetCollection* moment =
+      [self _collection:[NSString stringWithFormat:@"moment-%lld/L0/060", static_cast<long long>(day)]
+                  title:nil
+                   type:PHAssetCollectionTypeMoment
+                subtype:0];
+  moment->_day = day;
+  return moment;
+}
+
++ (PHAssetCollection*)_importHistory {
+  return [self _collection:@"imports/L0/040"
+                     title:@"Imports"
+                      type:PHAssetCollectionTypeImportHistory
+                   subtype:PHAssetCollectionSubtypeSmartAlbumGeneric];
+}
+
++ (PHAssetCollection*)transientAssetCollectionWithAssets:(NSArray*)assets title:(NSString*)title {
+  PHAssetCollection* made = [self _collection:[[NSUUID UUID] UUIDString]
+                                        title:title
+                                         type:PHAssetCollectionTypeAlbum
+                                      subtype:PHAssetCollectionSubtypeAlbumRegular];
+  made->_transientAssets = [assets copy];
   return made;
+}
+
+- (void)dealloc {
+  [_transientAssets release];
+  [super dealloc];
 }
 
 + (PHFetchResult*)fetchAssetCollectionsWithType:(NSInteger)type
                                         subtype:(NSInteger)subtype
                                         options:(PHFetchOptions*)options {
   NSMutableArray* found = [NSMutableArray array];
-  const auto isAskedFor = [&](NSInteger other) {
-    return subtype == PHAssetCollectionSubtypeAny || subtype == other;
-  };
-  if (type == PHAssetCollectionTypeAlbum) {
-    for (PHAssetCollection* album in albums(sharedPhotoDatabase().allAlbums())) {
-      if (isAskedFor([album assetCollectionSubtype])) [found addObject:album];
-    }
-  }
-  if (type == PHAssetCollectionTypeSmartAlbum) {
-    for (const SmartAlbum& album : kSmartAlbums) {
-      if (isAskedFor(album.subtype)) [found addObject:[self _smartAlbum:album]];
+  for (PHAssetCollection* collection in collectionsOfType(type)) {
+    if (subtype == PHAssetCollectionSubtypeAny || subtype == [collection assetCollectionSubtype]) {
+      [found addObject:collection];
     }
   }
   return [PHFetchResult _resultOf:found options:options];
@@ -173,11 +243,18 @@ NSArray* collectionsIn(std::int64_t folder) {
 
 + (PHFetchResult*)fetchAssetCollectionsWithLocalIdentifiers:(NSArray*)identifiers
                                                     options:(PHFetchOptions*)options {
-  NSMutableArray* found = [NSMutableArray arrayWithArray:albums(sharedPhotoDatabase().allAlbums())];
-  for (const SmartAlbum& album : kSmartAlbums) [found addObject:[self _smartAlbum:album]];
+  NSMutableArray* found = [NSMutableArray array];
+  for (const NSInteger type : {PHAssetCollectionTypeAlbum, PHAssetCollectionTypeSmartAlbum,
+                               PHAssetCollectionTypeMoment, PHAssetCollectionTypeImportHistory}) {
+    [found addObjectsFromArray:collectionsOfType(type)];
+  }
   NSPredicate* isNamed = [NSPredicate predicateWithFormat:@"localIdentifier IN %@", identifiers];
   [found filterUsingPredicate:isNamed];
   return [PHFetchResult _resultOf:found options:options];
+}
+
++ (PHFetchResult*)fetchMomentsWithOptions:(PHFetchOptions*)options {
+  return [PHFetchResult _resultOf:moments() options:options];
 }
 
 + (PHFetchResult*)fetchAssetCollectionsContainingAsset:(PHAsset*)asset
@@ -200,16 +277,34 @@ NSArray* collectionsIn(std::int64_t folder) {
 }
 
 - (std::vector<AssetRow>)_assetRows {
-  if (_assetCollectionType == PHAssetCollectionTypeAlbum) {
-    return sharedPhotoDatabase().assetsInAlbum(_identifier);
-  }
-  std::vector<AssetRow> rows = sharedPhotoDatabase().allAssets();
-  std::erase_if(rows, [&](const AssetRow& row) { return !belongs(row, _assetCollectionSubtype); });
+  const PhotoDatabase& library = sharedPhotoDatabase();
+  if (_identifier) return library.assetsInAlbum(_identifier);
+  if (_assetCollectionType == PHAssetCollectionTypeAlbum) return [self _transientRows];
+  std::vector<AssetRow> rows = library.allAssets();
+  std::erase_if(rows, [&](const AssetRow& row) { return ![self _holds:row]; });
   return rows;
 }
 
+- (std::vector<AssetRow>)_transientRows {
+  std::vector<AssetRow> rows;
+  for (PHAsset* asset in _transientAssets) {
+    if (const auto row = sharedPhotoDatabase().asset([asset _identifier])) rows.push_back(*row);
+  }
+  return rows;
+}
+
+/// For what is not kept but gathered from the whole library.
+- (BOOL)_holds:(const AssetRow&)asset {
+  if (_assetCollectionType == PHAssetCollectionTypeMoment) return dayOf(asset) == _day;
+  if (_assetCollectionType == PHAssetCollectionTypeImportHistory) {
+    return asset.smartSubtype == device::kImported;
+  }
+  return belongs(asset, _assetCollectionSubtype);
+}
+
 - (BOOL)canPerformEditOperation:(NSInteger)operation {
-  return _assetCollectionSubtype == PHAssetCollectionSubtypeAlbumRegular;
+  return [super canPerformEditOperation:operation] &&
+         _assetCollectionSubtype == PHAssetCollectionSubtypeAlbumRegular;
 }
 
 - (NSString*)title {
@@ -217,7 +312,9 @@ NSArray* collectionsIn(std::int64_t folder) {
 }
 
 - (NSUInteger)estimatedAssetCount {
-  if (_assetCollectionType != PHAssetCollectionTypeAlbum) return NSNotFound;
+  const bool isCounted = _assetCollectionType == PHAssetCollectionTypeAlbum ||
+                         _assetCollectionType == PHAssetCollectionTypeMoment;
+  if (!isCounted) return NSNotFound;
   const std::vector<AssetRow> rows = [self _assetRows];
   return static_cast<NSUInteger>(std::ranges::count(rows, false, &AssetRow::isHidden));
 }
@@ -248,7 +345,7 @@ NSArray* collectionsIn(std::int64_t folder) {
   NSString* identifier = [[NSUUID UUID] UUIDString];
   PHCollectionList* list = [[[self alloc] _initWithLocalIdentifier:identifier identifier:0
                                                              title:title] autorelease];
-  list->_transientCollections = [collections copy];
+  list->_transientCollections = collections ? [collections copy] : [[NSArray alloc] init];
   return list;
 }
 

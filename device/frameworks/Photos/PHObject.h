@@ -12,7 +12,7 @@
 - (id)_initWithLocalIdentifier:(NSString*)identifier;
 @end
 
-@interface PHFetchOptions : NSObject {
+@interface PHFetchOptions : NSObject <NSCopying> {
   NSPredicate* _predicate;
   NSArray* _sortDescriptors;
   BOOL _includeHiddenAssets;

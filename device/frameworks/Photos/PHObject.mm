@@ -37,6 +37,14 @@
   [super dealloc];
 }
 
+- (id)copyWithZone:(NSZone*)zone {
+  PHFetchOptions* made = [[[self class] allocWithZone:zone] init];
+  [made setPredicate:_predicate];
+  [made setSortDescriptors:_sortDescriptors];
+  [made setIncludeHiddenAssets:_includeHiddenAssets];
+  return made;
+}
+
 - (NSArray*)_select:(NSArray*)objects {
   if (_predicate) objects = [objects filteredArrayUsingPredicate:_predicate];
   if ([_sortDescriptors count]) objects = [objects sortedArrayUsingDescriptors:_sortDescriptors];

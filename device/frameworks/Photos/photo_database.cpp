@@ -32,6 +32,8 @@ constexpr const char* kSchema = R"(
     asset INTEGER NOT NULL REFERENCES asset ON DELETE CASCADE,
     album INTEGER NOT NULL REFERENCES collection ON DELETE CASCADE,
     PRIMARY KEY(asset, album));
+  CREATE INDEX IF NOT EXISTS membershipByAlbum ON membership(album);
+  CREATE INDEX IF NOT EXISTS collectionByParent ON collection(parent);
   COMMIT;
 )";
 
@@ -248,6 +250,12 @@ std::optional<CollectionRow> PhotoDatabase::collection(std::int64_t identifier) 
 }
 
 std::vector<AssetRow> PhotoDatabase::allAssets() const { return readAssets(connection_.get(), ""); }
+
+std::optional<AssetRow> PhotoDatabase::asset(std::int64_t identifier) const {
+  const auto rows = readAssets(connection_.get(), "WHERE identifier = ?", identifier);
+  if (rows.empty()) return std::nullopt;
+  return rows.front();
+}
 
 std::vector<AssetRow> PhotoDatabase::assetsInAlbum(std::int64_t album) const {
   return readAssets(connection_.get(), "JOIN membership ON asset = identifier WHERE album = ?", album);

@@ -18,6 +18,9 @@ inline constexpr std::string_view kPhotoDatabasePath = "/var/mobile/Media/PhotoD
 
 enum class MediaType : int { image = 1, video = 2 };
 
+/// No smart album's subtype: the import history has that of People.
+inline constexpr std::int64_t kImported = 9;
+
 struct AssetRow {
   std::int64_t identifier = 0;
   MediaType mediaType = MediaType::image;
@@ -26,7 +29,7 @@ struct AssetRow {
   bool isHidden = false;
   bool isFavorite = false;
   /// The subtype of a smart album that the asset belongs to besides those computed (such as 201 for a
-  /// panorama), 0 for none.
+  /// panorama), 0 for none; `kImported` for one that the import history holds.
   std::int64_t smartSubtype = 0;
   /// The colour that stands for the asset's pixels, 0xRRGGBB.
   std::uint32_t color = 0;
@@ -39,7 +42,7 @@ struct CollectionRow {
   bool isFolder = false;
   /// The folder that holds it, 0 at the top level.
   std::int64_t parent = 0;
-  /// An album's: 2 for one of the phone's own, 5 for one that a computer synced to it.
+  /// An album's: 2 for one of the phone's own, 5 for one that a computer synced to it, 101 for a shared one.
   std::int64_t subtype = 2;
 };
 
@@ -77,6 +80,7 @@ class PhotoDatabase {
   std::vector<CollectionRow> collections(std::int64_t folder = 0) const;
   std::vector<CollectionRow> allAlbums() const;
   std::optional<CollectionRow> collection(std::int64_t identifier) const;
+  std::optional<AssetRow> asset(std::int64_t identifier) const;
   /// Oldest first, hidden ones included.
   std::vector<AssetRow> allAssets() const;
   std::vector<AssetRow> assetsInAlbum(std::int64_t album) const;

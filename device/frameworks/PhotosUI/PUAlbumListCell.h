@@ -52,5 +52,7 @@
 - (CGSize)albumCellSize;
 /// How many photos or albums it holds.
 - (NSString*)subtitleForCollection:(PHCollection*)collection;
+/// Of the key photos, none for a folder.
+- (NSArray*)_colorsOfCollection:(PHCollection*)collection;
 - (void)_fill:(PUAlbumListCellContentView*)tile with:(PHCollection*)collection;
 @end

@@ -1,5 +1,7 @@
 #import "device/frameworks/PhotosUI/PUAlbumListCell.h"
 
+#import "device/frameworks/PhotosUI/PXCollectionsDataSourceManager.h"
+
 namespace {
 
 constexpr CGFloat kTileWidth = 163;
@@ -154,8 +156,7 @@ constexpr CGFloat kStackOffset = 4;
 
 - (NSString*)subtitleForCollection:(PHCollection*)collection {
   const NSUInteger count = [collection isKindOfClass:[PHAssetCollection class]]
-                               ? [[PHAsset fetchAssetsInAssetCollection:(PHAssetCollection*)collection
-                                                                options:nil] count]
+                               ? [PUAssetsInCollection((PHAssetCollection*)collection) count]
                                : [[(PHCollectionList*)collection collections] count];
   return [NSString stringWithFormat:@"%lu", static_cast<unsigned long>(count)];
 }

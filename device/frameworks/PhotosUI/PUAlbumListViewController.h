@@ -1,6 +1,7 @@
 #pragma once
 
 #import "device/frameworks/PhotosUI/PUAlbumListCell.h"
+#import "device/frameworks/PhotosUI/PXCollectionsDataSourceManager.h"
 
 @class PUPhotosGridViewController, UITableView;
 
@@ -12,7 +13,7 @@
 @interface PUAlbumListViewController : UIViewController <UICollectionViewDataSource,
                                                          UICollectionViewDelegate,
                                                          PUAlbumListCellContentViewDelegate> {
-  PHCollectionList* _collectionList;
+  PXPhotoKitCollectionsDataSourceManager* _dataSourceManager;
   NSArray* _collections;
   PUCollectionView* _mainCollectionView;
   PUAlbumListCellContentViewHelper* _helper;

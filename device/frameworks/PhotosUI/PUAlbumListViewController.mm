@@ -44,7 +44,7 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 - (id)initWithCollectionList:(PHCollectionList*)list {
   self = [super init];
   if (!self) return nil;
-  _collectionList = [list retain];
+  _dataSourceManager = [[PXPhotoKitCollectionsDataSourceManager alloc] initWithCollectionList:list];
   _helper = [[PUAlbumListCellContentViewHelper alloc] init];
   [self _updateNavigationItem];
   return self;
@@ -54,7 +54,7 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
   [_mainCollectionView setDelegate:nil];
   [_mainCollectionView setDataSource:nil];
   [_mainCollectionView release];
-  [_collectionList release];
+  [_dataSourceManager release];
   [_collections release];
   [_helper release];
   [_source release];
@@ -103,7 +103,7 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 
 - (void)reloadContentView {
   [_collections release];
-  _collections = [[_collectionList collections] copy];
+  _collections = [[_dataSourceManager _collections] copy];
   [_mainCollectionView reloadData];
 }
 
@@ -227,6 +227,10 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 - (void)_handleDoneButton:(id)sender {
   if (_source) return [self dismissViewControllerAnimated:YES completion:nil];
   [self setEditing:NO animated:YES];
+}
+
+- (BOOL)collectionView:(UICollectionView*)view canMoveItemAtIndexPath:(NSIndexPath*)path {
+  return [self isEditing] && [_dataSourceManager canReorderCollection:[self collectionAtIndexPath:path]];
 }
 
 - (void)albumListCellContentView:(PUAlbumListCellContentView*)tile performDeleteAction:(id)action {

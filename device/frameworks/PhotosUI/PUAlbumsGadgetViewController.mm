@@ -1,6 +1,106 @@
 #import "device/frameworks/PhotosUI/PUAlbumsGadgetViewController.h"
 
+#include <iterator>
+#include <span>
+
 #import "device/frameworks/PhotosUI/PUAlbumListViewController.h"
+#import "device/frameworks/PhotosUI/PXNavigationList.h"
+
+namespace {
+
+struct Kind {
+  NSInteger type;
+  NSInteger subtype;
+};
+
+constexpr NSInteger kSmart = PHAssetCollectionTypeSmartAlbum;
+
+constexpr Kind kSharedAlbums[] = {{PHAssetCollectionTypeAlbum, PHAssetCollectionSubtypeAlbumCloudShared}};
+constexpr Kind kPeopleAndPlaces[] = {
+    {kSmart, PHAssetCollectionSubtypeSmartAlbumGeneric},
+    {kSmart, PHAssetCollectionSubtypePlaces},
+};
+constexpr Kind kMediaTypes[] = {
+    {kSmart, PHAssetCollectionSubtypeSmartAlbumVideos},
+    {kSmart, 210},
+    {kSmart, 213},
+    {kSmart, 212},
+    {kSmart, 201},
+    {kSmart, 204},
+    {kSmart, 208},
+    {kSmart, 207},
+    {kSmart, 211},
+    {kSmart, 214},
+    {kSmart, 215},
+    {kSmart, 1000000207},
+    {kSmart, 1000000208},
+};
+constexpr Kind kOtherAlbums[] = {
+    {PHAssetCollectionTypeImportHistory, PHAssetCollectionSubtypeAny},
+    {kSmart, PHAssetCollectionSubtypeSmartAlbumAllHidden},
+    {kSmart, PHAssetCollectionSubtypeTrashBin},
+};
+
+struct Section {
+  const char* title;
+  /// None for all that the user made.
+  std::span<const Kind> kinds;
+  /// A strip's; 0 makes it a list.
+  NSUInteger albumListType;
+};
+
+constexpr Section kSections[] = {
+    {"My Albums", {}, PUAlbumListTypeUserAlbums},
+    {"Shared Albums", kSharedAlbums, PUAlbumListTypeSharedAlbums},
+    {"People & Places", kPeopleAndPlaces, PUAlbumListTypePeopleAndPlaces},
+    {"Media Types", kMediaTypes, 0},
+    {"Other Albums", kOtherAlbums, 0},
+};
+
+UIViewController* gadgetOf(const Section& section) {
+  UIViewController* gadget = nil;
+  if (section.albumListType) {
+    PUAlbumsGadgetProvider* provider = [PUAlbumsGadgetProvider alloc];
+    provider = [[provider initWithAlbumListType:section.albumListType] autorelease];
+    gadget = [[[PUHorizontalAlbumListGadget alloc] initWithProvider:provider] autorelease];
+  } else {
+    gadget = [[[PXNavigationListGadget alloc] init] autorelease];
+  }
+  [gadget setTitle:[NSString stringWithUTF8String:section.title]];
+  return gadget;
+}
+
+PHCollectionList* collectionsOf(const Section& section) {
+  if (section.kinds.empty()) return PUUserCollections();
+  NSMutableArray* collections = [NSMutableArray array];
+  for (const auto& [type, subtype] : section.kinds) {
+    for (PHAssetCollection* collection in [PHAssetCollection fetchAssetCollectionsWithType:type
+                                                                                   subtype:subtype
+                                                                                   options:nil]) {
+      [collections addObject:collection];
+    }
+  }
+  return
+      [PHCollectionList transientCollectionListWithCollections:collections
+                                                         title:[NSString stringWithUTF8String:section.title]];
+}
+
+}  // namespace
+
+@implementation PXGadgetProvider
+@end
+
+@implementation PUAlbumsGadgetProvider
+
+@synthesize albumListType = _albumListType;
+
+- (id)initWithAlbumListType:(NSUInteger)type {
+  self = [super init];
+  if (self) _albumListType = type;
+  return self;
+}
+
+@end
 
 @implementation PUAlbumGadget
 
@@ -30,6 +130,10 @@
   [_albumListCellContentView setSubtitle:[_helper subtitleForCollection:collection]];
 }
 
+- (NSUInteger)gadgetType {
+  return PXGadgetTypeAlbum;
+}
+
 - (NSString*)title {
   return [_collection localizedTitle];
 }
@@ -46,12 +150,22 @@
 
 @implementation PUHorizontalAlbumListGadget
 
-- (id)init {
+@synthesize provider = _provider;
+@synthesize _dataSourceManager = _dataSourceManager;
+
+- (id)initWithProvider:(PUAlbumsGadgetProvider*)provider {
   self = [super init];
   if (!self) return nil;
+  _provider = [provider retain];
   PUAlbumListCellContentViewHelper* helper = [[[PUAlbumListCellContentViewHelper alloc] init] autorelease];
   [[[self collectionView] collectionViewLayout] setItemSize:[helper albumCellSize]];
   return self;
+}
+
+- (void)dealloc {
+  [_provider release];
+  [_dataSourceManager release];
+  [super dealloc];
 }
 
 /// Albums that are still there keep their tiles.
@@ -60,7 +174,7 @@
   for (PUAlbumGadget* gadget in _gadgets)
     [known setObject:gadget forKey:[[gadget collection] localIdentifier]];
   NSMutableArray* gadgets = [NSMutableArray array];
-  for (PHCollection* collection in [PUUserCollections() collections]) {
+  for (PHCollection* collection in [_dataSourceManager _collections]) {
     PUAlbumGadget* gadget = [known objectForKey:[collection localIdentifier]];
     [gadget setCollection:collection];
     if (!gadget) gadget = [[[PUAlbumGadget alloc] initWithCollection:collection] autorelease];
@@ -70,11 +184,11 @@
 }
 
 - (NSString*)localizedTitle {
-  return @"My Albums";
+  return [self title];
 }
 
 - (NSString*)accessoryButtonTitle {
-  return @"See All";
+  return [_provider albumListType] == PUAlbumListTypeUserAlbums ? @"See All" : nil;
 }
 
 - (void)userDidSelectAccessoryButton:(id)sender {
@@ -96,15 +210,30 @@
 
 - (id)init {
   self = [super init];
-  if (self) [self setTitle:@"Albums"];
+  if (!self) return nil;
+  [self setTitle:@"Albums"];
+  NSMutableArray* sections = [NSMutableArray array];
+  for (const Section& section : kSections) [sections addObject:gadgetOf(section)];
+  _sections = [sections copy];
   return self;
 }
 
-- (void)viewDidLoad {
-  [super viewDidLoad];
-  PUHorizontalAlbumListGadget* strip = [[[PUHorizontalAlbumListGadget alloc] init] autorelease];
-  [self addChildViewController:strip];
-  [self _setGadgets:[NSArray arrayWithObject:strip]];
+- (void)dealloc {
+  [_sections release];
+  [super dealloc];
+}
+
+- (NSArray*)_currentGadgets {
+  NSMutableArray* gadgets = [NSMutableArray array];
+  for (std::size_t index = 0; index < std::size(kSections); ++index) {
+    PXPhotoKitCollectionsDataSourceManager* manager = [PXPhotoKitCollectionsDataSourceManager alloc];
+    manager = [[manager initWithCollectionList:collectionsOf(kSections[index])] autorelease];
+    if (![[manager _collections] count]) continue;
+    id gadget = [_sections objectAtIndex:index];
+    [gadget _setDataSourceManager:manager];
+    [gadgets addObject:gadget];
+  }
+  return gadgets;
 }
 
 - (void)viewWillAppear:(BOOL)animated {

@@ -73,7 +73,7 @@ NSString* PUNumberOfPhotos(NSUInteger count) {
 
 - (void)_refetch {
   [_assets release];
-  _assets = [[PHAsset fetchAssetsInAssetCollection:[self _shownCollection] options:nil] retain];
+  _assets = [PUAssetsInCollection([self _shownCollection]) retain];
   [[self collectionView] reloadData];
 }
 

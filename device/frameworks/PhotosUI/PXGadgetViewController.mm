@@ -44,6 +44,9 @@ constexpr CGFloat kSpacing = 16;
   [_heading setText:[gadget localizedTitle]];
   [[self contentView] addSubview:_heading];
   [_accessory release];
+  _accessory = nil;
+  if (![gadget respondsToSelector:@selector(accessoryButtonTitle)]) return;
+  if (![gadget accessoryButtonTitle]) return;
   _accessory = [[UIButton buttonWithType:0] retain];
   [_accessory setTitle:[gadget accessoryButtonTitle] forState:0];
   [_accessory addTarget:gadget
@@ -64,17 +67,32 @@ constexpr CGFloat kSpacing = 16;
 
 @end
 
-@implementation PXGadgetViewController
+@implementation PXSectionedDataSource
+@end
 
-@synthesize _gadgets = _gadgets;
+@implementation PXGadgetDataSource
+
+@synthesize gadgets = _gadgets;
+
+- (void)dealloc {
+  [_gadgets release];
+  [super dealloc];
+}
+
+@end
+
+@implementation PXGadgetViewController
 
 - (id)init {
   UICollectionViewFlowLayout* layout = [[[UICollectionViewFlowLayout alloc] init] autorelease];
   [layout _setSpacing:0];
-  return [super initWithCollectionViewLayout:layout];
+  self = [super initWithCollectionViewLayout:layout];
+  if (self) _dataSource = [[PXGadgetDataSource alloc] init];
+  return self;
 }
 
 - (void)dealloc {
+  [_dataSource release];
   [_gadgets release];
   [super dealloc];
 }
@@ -84,10 +102,26 @@ constexpr CGFloat kSpacing = 16;
   [[self collectionView] registerClass:[PXGadgetCell class] forCellWithReuseIdentifier:kCell];
 }
 
-- (void)_setGadgets:(NSArray*)gadgets {
+- (NSArray*)_currentGadgets {
+  return [NSArray array];
+}
+
+- (void)viewWillAppear:(BOOL)animated {
+  [super viewWillAppear:animated];
+  [_dataSource _setGadgets:[self _currentGadgets]];
+  [self _show:[_dataSource gadgets]];
+}
+
+- (void)_show:(NSArray*)gadgets {
+  // The sizes of those that stay may be others now.
+  [[self collectionView] setNeedsLayout];
   if ([gadgets isEqualToArray:_gadgets]) return;
   [_gadgets autorelease];
   _gadgets = [gadgets copy];
+  for (UIViewController* child in [self childViewControllers]) [child removeFromParentViewController];
+  for (id gadget in _gadgets) {
+    if ([gadget isKindOfClass:[UIViewController class]]) [self addChildViewController:gadget];
+  }
   [[self collectionView] reloadData];
 }
 
@@ -134,13 +168,8 @@ constexpr CGFloat kSpacing = 16;
   return self;
 }
 
-- (NSArray*)_currentGadgets {
-  return [NSArray array];
-}
-
-- (void)viewWillAppear:(BOOL)animated {
-  [super viewWillAppear:animated];
-  [self _setGadgets:[self _currentGadgets]];
+- (NSUInteger)gadgetType {
+  return PXGadgetTypeHorizontalCollection;
 }
 
 - (UICollectionViewCell*)collectionView:(UICollectionView*)view cellForItemAtIndexPath:(NSIndexPath*)path {

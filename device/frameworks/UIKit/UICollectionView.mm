@@ -172,7 +172,8 @@
 }
 
 - (void)reloadData {
-  for (NSIndexPath* path in [_visibleCells allKeys]) [self _recycleCellAtIndexPath:path];
+  NSArray* paths = [[_visibleCells allKeys] sortedArrayUsingSelector:@selector(compare:)];
+  for (NSIndexPath* path in paths) [self _recycleCellAtIndexPath:path];
   _itemCount = -1;
   [self setNeedsLayout];
 }

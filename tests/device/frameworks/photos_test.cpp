@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "tests/device/frameworks/plain_phone.hpp"
+#include "tests/photo_library.hpp"
 
 namespace velvault12 {
 namespace {
@@ -30,12 +31,6 @@ class Photos : public PlainPhone {
     return added;
   }
 
-  template <class List>
-  static Titles titlesOf(List collections) {
-    Titles all;
-    for (const Object each : collections) all.push_back(PHCollection(each.get()).localizedTitle().utf8());
-    return all;
-  }
   static Numbers numbersOf(Assets assets) {
     Numbers all;
     for (const Object each : assets) all.push_back(std::stoll(ask<"localIdentifier", NSString>(each).utf8()));
@@ -45,24 +40,9 @@ class Photos : public PlainPhone {
   static auto fetch(Type type, Subtype subtype = Subtype::any, const Options& options = {}) {
     return PHAssetCollection::fetch(type, subtype, options.get());
   }
-  static PHAssetCollection album(std::string_view title) {
-    return PHAssetCollection::userAlbums(NSString::from(title)).firstObject();
-  }
-  static PHAssetCollection smartAlbum(NSInteger subtype) {
-    return fetch(Type::smartAlbum, Subtype{subtype}).firstObject();
-  }
   static Numbers in(PHAssetCollection album, const Options& options = {}) {
     return numbersOf(PHAsset::fetchInAssetCollection(album, options.get()));
   }
-  static Assets keyAssetsIn(PHAssetCollection album) {
-    return ask<"fetchKeyAssetsInAssetCollection:options:", Assets>(hostType<"PHAsset">(), album, Object());
-  }
-  static Collections topLevel() {
-    return ask<"fetchTopLevelUserCollectionsWithOptions:", Collections>(hostType<"PHCollection">(), Object());
-  }
-  static NSArray members(Object folder) { return ask<"collections", NSArray>(folder); }
-  static NSUInteger estimate(Object album) { return ask<"estimatedAssetCount", NSUInteger>(album); }
-
   static Options sortedBy(std::string_view key, bool ascending) {
     auto options = makeObject<PHFetchOptions>();
     options->setSortDescriptors(NSArray::of(NSSortDescriptor::make(key, ascending)));
@@ -79,7 +59,7 @@ TEST_F(Photos, TheDatabaseKeepsAlbumsInFoldersInTheirOrder) {
   const auto fjords = library_.addAlbum("", north);
   library_.addAlbum("Pets", trips);
   EXPECT_EQ(titlesOf(topLevel()), (Titles{"Pets", "Trips"}));
-  EXPECT_EQ(titlesOf(members(topLevel().objectAtIndex(1))),
+  EXPECT_EQ(titlesOf(membersOf(topLevel().objectAtIndex(1))),
             (Titles{"O'Hara's \U0001F512 \"north\"", "Pets"}));
   EXPECT_EQ(albums(), (Titles{"Pets", "", "Pets"})) << "wherever they are kept";
 
@@ -124,15 +104,14 @@ TEST_F(Photos, AResultStaysAsItWasWhileAListFollowsTheLibrary) {
   const auto north = other.addAlbum("North", trips);
   const auto before = fetch(Type::album);
   const Object folder = topLevel().firstObject();
-  const auto copy = ask<"transientCollectionListWithCollections:title:", PHCollection>(
-      hostType<"PHCollectionList">(), members(folder), NSString::from("Copy"));
+  const auto copy = listOf(membersOf(folder));
   other.renameCollection(north, "Fjords");
   other.addAlbum("South", trips);
   const Titles then{"North"}, now{"Fjords", "South"};
   EXPECT_EQ(titlesOf(before), then);
   EXPECT_EQ(titlesOf(fetch(Type::album)), now);
-  EXPECT_EQ(titlesOf(members(copy)), then) << "a list that is kept nowhere";
-  EXPECT_EQ(titlesOf(members(folder)), now);
+  EXPECT_EQ(titlesOf(membersOf(copy)), then) << "a list that is kept nowhere";
+  EXPECT_EQ(titlesOf(membersOf(folder)), now);
   EXPECT_FALSE(copy.allowsAddingAssets());
 }
 
@@ -152,14 +131,14 @@ TEST_F(Photos, AlbumsAreFetchedByTypeAndSubtype) {
     EXPECT_EQ(titlesOf(fetch(type, Subtype{subtype})), found) << subtype;
 
   Titles identifiers{"unknown"};
-  for (const Object each : {album("Kept"), smartAlbum(203)})
+  for (const Object each : {albumNamed("Kept"), smartAlbum(203)})
     identifiers.push_back(ask<"localIdentifier", NSString>(each).utf8());
   EXPECT_EQ(titlesOf(PHAssetCollection::fetchWithLocalIdentifiers(NSArray::from(identifiers))),
             (Titles{"Kept", "Favorites"}));
 
-  EXPECT_EQ(static_cast<NSInteger>(album("Synced").subtype()), 5);
-  EXPECT_TRUE(album("Own").allowsAddingAssets() && topLevel().objectAtIndex(1).allowsAddingAssets());
-  EXPECT_FALSE(album("Synced").allowsAddingAssets() || smartAlbum(203).allowsAddingAssets());
+  EXPECT_EQ(static_cast<NSInteger>(albumNamed("Synced").subtype()), 5);
+  EXPECT_TRUE(albumNamed("Own").allowsAddingAssets() && topLevel().objectAtIndex(1).allowsAddingAssets());
+  EXPECT_FALSE(albumNamed("Synced").allowsAddingAssets() || smartAlbum(203).allowsAddingAssets());
 }
 
 TEST_F(Photos, SmartAlbumsHoldWhatTheirKindAsksFor) {
@@ -175,14 +154,18 @@ TEST_F(Photos, SmartAlbumsHoldWhatTheirKindAsksFor) {
       {202, {video}},
       {201, {panorama}},
       {210, {}},
+      {1000000205, {hidden, favorite, video, photo, panorama}},
   };
   for (const auto& [subtype, assets] : contents)
     EXPECT_EQ(numbersOf(PHAsset::fetchAllInAssetCollection(smartAlbum(subtype))), assets) << subtype;
   EXPECT_EQ(in(smartAlbum(203)), Numbers{favorite}) << "hidden ones only when asked for";
-  EXPECT_EQ(estimate(smartAlbum(209)), NSUInteger{INT64_MAX}) << "not counted";
-  EXPECT_EQ(numbersOf(keyAssetsIn(smartAlbum(209))), (Numbers{video, photo, panorama})) << "its newest";
+  EXPECT_EQ(estimateOf(smartAlbum(209)), NSUInteger{INT64_MAX}) << "not counted";
+  EXPECT_EQ(numbersOf(keyAssetsOf(smartAlbum(209))), (Numbers{video, photo, panorama})) << "its newest";
   EXPECT_EQ(numbersOf(PHAsset::fetchWithMediaType(PHAsset::MediaType::image, {})),
             (Numbers{favorite, photo, panorama}));
+  const auto imported = library_.addAsset({.smartSubtype = device::kImported});
+  EXPECT_EQ(in(fetch(Type{9}, Subtype{200}).firstObject()), Numbers{imported});
+  EXPECT_EQ(in(smartAlbum(200)), Numbers{}) << "of the same subtype";
 }
 
 TEST_F(Photos, AnAlbumsAssetsAreFilteredAndSorted) {
@@ -191,21 +174,58 @@ TEST_F(Photos, AnAlbumsAssetsAreFilteredAndSorted) {
   const auto old = addTo(pets, {.creationDate = 1});
   const auto hidden = addTo(pets, {.creationDate = 2, .isHidden = true});
   const auto late = addTo(pets, {.mediaType = MediaType::video, .creationDate = 3});
-  EXPECT_EQ(in(album("Pets")), (Numbers{old, late}));
-  EXPECT_EQ(numbersOf(PHAsset::fetchAllInAssetCollection(album("Pets"))), (Numbers{old, hidden, late}));
-  EXPECT_EQ(in(album("Pets"), sortedBy("creationDate", false)), (Numbers{late, old}));
-  EXPECT_EQ(estimate(album("Pets")), 2u);
+  EXPECT_EQ(in(albumNamed("Pets")), (Numbers{old, late}));
+  EXPECT_EQ(numbersOf(PHAsset::fetchAllInAssetCollection(albumNamed("Pets"))), (Numbers{old, hidden, late}));
+  EXPECT_EQ(in(albumNamed("Pets"), sortedBy("creationDate", false)), (Numbers{late, old}));
+  EXPECT_EQ(estimateOf(albumNamed("Pets")), 2u);
   library_.setHidden(hidden, false);
-  EXPECT_EQ(estimate(album("Pets")), 3u);
-  EXPECT_EQ(numbersOf(keyAssetsIn(album("Pets"))).front(), old);
-  EXPECT_FALSE(keyAssetsIn(album("Empty"))) << "nothing stands for it";
+  EXPECT_EQ(estimateOf(albumNamed("Pets")), 3u);
+  EXPECT_EQ(numbersOf(keyAssetsOf(albumNamed("Pets"))).front(), old);
+  EXPECT_FALSE(keyAssetsOf(albumNamed("Empty"))) << "nothing stands for it";
 
   EXPECT_EQ(titlesOf(fetch(Type::album, Subtype::any, sortedBy("localizedTitle", true))),
             (Titles{"Cats", "Empty", "Pets"}));
   library_.addToAlbum(late, cats);
-  const PHAsset asset = PHAsset::fetchInAssetCollection(album("Cats"), {}).lastObject();
+  const PHAsset asset = PHAsset::fetchInAssetCollection(albumNamed("Cats"), {}).lastObject();
   EXPECT_EQ(titlesOf(PHAssetCollection::fetchContaining(asset, Type::album)), (Titles{"Pets", "Cats"}));
   EXPECT_EQ(PHAssetCollection::fetchContaining(asset, Type::smartAlbum).count(), 0u);
+
+  library_.setHidden(hidden, true);
+  const Options all = sortedBy("creationDate", false);
+  all->setIncludeHiddenAssets(true);
+  const auto copy = all->copy();
+  all->setIncludeHiddenAssets(false);
+  all->setSortDescriptors({});
+  EXPECT_EQ(in(albumNamed("Pets"), copy), (Numbers{late, hidden, old})) << "a copy stays as it was";
+}
+
+TEST_F(Photos, MomentsAreTheDaysOnWhichSomethingIsShown) {
+  constexpr double kDay = 86'400;
+  const auto eve = library_.addAsset({.creationDate = -1});
+  const auto last = library_.addAsset({.creationDate = kDay - 1});
+  const auto midnight = library_.addAsset({.creationDate = 0, .isHidden = true});
+  library_.addAsset({.creationDate = 2 * kDay, .isHidden = true});
+  const auto moments = fetch(Type::moment);
+  ASSERT_EQ(moments.count(), 2u);
+  EXPECT_EQ(in(moments.firstObject()), Numbers{eve});
+  EXPECT_EQ(numbersOf(PHAsset::fetchAllInAssetCollection(moments.lastObject())), (Numbers{midnight, last}));
+  EXPECT_EQ(estimateOf(moments.lastObject()), 1u);
+  EXPECT_FALSE(moments.firstObject().localizedTitle());
+}
+
+TEST_F(Photos, ATransientAlbumHoldsItsAssetsWhileTheLibraryHasThem) {
+  const auto first = library_.addAsset({.creationDate = 1}), gone = library_.addAsset({.creationDate = 2});
+  const auto last = library_.addAsset({.creationDate = 3});
+  const auto assets =
+      elementsOf(PHAsset::fetchInAssetCollection(smartAlbum(209), sortedBy("creationDate", false).get()));
+  const auto made = PHAssetCollection::transient(assets.get(), NSString::from("Made"));
+  EXPECT_EQ(in(made), (Numbers{last, gone, first}));
+  library_.removeAsset(gone);
+  library_.setHidden(first, true);
+  EXPECT_EQ(numbersOf(PHAsset::fetchAllInAssetCollection(made)), (Numbers{last, first}));
+  EXPECT_EQ(numbersOf(keyAssetsOf(made)), Numbers{last});
+  EXPECT_EQ(estimateOf(made), 1u);
+  EXPECT_FALSE(made.allowsAddingAssets());
 }
 
 }  // namespace

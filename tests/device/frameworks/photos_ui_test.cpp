@@ -46,12 +46,20 @@ UIToolbar : UIView { items @@: }
 UIView : UIResponder { _viewControllerForAncestor @@: }
 UITabBar : UIView { layoutSubviews v@:   items @@:   -hidden }
 PXUIButton : UIButton { ~layoutSubviews v@:   -viewidLoad }
-PXHorizontalCollectionGadget : PXGadgetViewController {}
+PXGadgetDataSource : PXSectionedDataSource { gadgets @@: }
+PXGadgetProvider : NSObject {}
+PUAlbumsGadgetProvider : PXGadgetProvider { albumListType Q@: }
+PXNavigationListGadget : PXNavigationListController { gadgetType Q@:   -provider   -albumListCellContentView }
+PXCollectionsDataSourceManager : PXSectionedDataSourceManager { -_containsAnyAssets:   -canReorderCollection: }
+PXPhotoKitCollectionsDataSourceManager : PXCollectionsDataSourceManager {
+  _containsAnyAssets: B@:@   canReorderCollection: B@:@ }
+PXHorizontalCollectionGadget : PXGadgetViewController { -provider }
 PUHorizontalAlbumListGadget : PXHorizontalCollectionGadget {
   ~viewWillAppear: v@:B   ~collectionView:cellForItemAtIndexPath: @@:@@   ~collectionView @@:
   collectionView:didSelectItemAtIndexPath: v@:@@   ~_gadgetAtIndexPath: @@:@   -reloadContentView
-  -showPeople   -showPlaces   -titleForCollection:   -subtitleForCollection:   -albumListCellContentView }
-PUAlbumGadget : NSObject { albumListCellContentView @@:   title @@:   -provider }
+  -showPeople   -showPlaces   -titleForCollection:   -subtitleForCollection:   -albumListCellContentView
+  provider @@:   ?gadgetType Q@: }
+PUAlbumGadget : NSObject { albumListCellContentView @@:   title @@:   gadgetType Q@:   -provider }
 PUAlbumListCell : UICollectionViewCell { albumListCellContentView @@: }
 PUAlbumListCellContentViewHelper : NSObject { albumCellSize {CGSize=dd}@: }
 PUAlbumListCellContentView : UIView {
@@ -64,7 +72,7 @@ PUAlbumListViewController : UIViewController {
   albumListCellContentView:performDeleteAction: v@:@@   subtitleForCollection: @@:@   collectionView @@:
   _mainCollectionView @@:   _mainTableView @@:   _pickerBannerView @@:   collectionAtIndexPath: @@:@
   _preparedAlbumListCellContentViewAtIndexPath: @@:@   indexPathForAlbumListCellContentView: @@:@
-  isPlaceholderAtIndexPath: B@:@   ~pu_wantsTabBarVisible B@:   -alwaysHideTabBar
+  collectionView:canMoveItemAtIndexPath: B@:@@   isPlaceholderAtIndexPath: B@:@   ~pu_wantsTabBarVisible B@:   -alwaysHideTabBar
   -scrollViewWillBeginDragging:   -titleForCollection:   -provider }
 PUAlbumsGadgetViewController : PXGadgetViewController {
   viewWillAppear: v@:B   ~collectionView @@:   _handleDoneButton: v@:@   -reloadContentView }
@@ -99,7 +107,8 @@ PHCollectionList : PHCollection {
 PHAssetCollection : PHCollection {
   estimatedAssetCount Q@:   startsAtEnd B@:   keyAssetsAtEnd B@:   title @@:   ?localizedTitle @@:
   isTrashBin B@:   assetCollectionType q@:   assetCollectionSubtype q@:
-  +fetchAssetCollectionsWithType:subtype:options: @@:qq@ }
+  +fetchAssetCollectionsWithType:subtype:options: @@:qq@   +fetchMomentsWithOptions: @@:@
+  +transientAssetCollectionWithAssets:title: @@:@@ }
 PHAsset : PHObject {
   +fetchAssetsInAssetCollection:options: @@:@@   +fetchKeyAssetsInAssetCollection:options: @@:@@ }
 PHFetchResult : NSObject { fetchedObjects @@: }
@@ -141,7 +150,7 @@ TEST(PhotosUIClasses, HaveTheMethodsOfAnIPhoneAndLackWhatItLacks) {
     EXPECT_EQ(class_getName(class_getSuperclass(type)), super);
     while (word.back() != '}' && table >> word && word != "}") checkMethod(type, word, table);
   }
-  EXPECT_EQ(classes, 47);
+  EXPECT_EQ(classes, 53);
 }
 
 class PhotosUI : public PlainPhone {
@@ -176,6 +185,48 @@ TEST_F(PhotosUI, TheListKnowsItsTilesWhileTheyAreInSight) {
       [&] { list.performDelete({}, {}); },
   };
   for (const auto& mistake : mistakes) EXPECT_TRUE(raises(mistake)) << &mistake - mistakes;
+}
+
+TEST_F(PhotosUI, TheAlbumsTabShowsWhatHoldsSomethingByItsKind) {
+  phone_.launchHere(device::kPhotos);
+  const auto gadgets = [] { return ask<"childViewControllers", NSArray>(PhotosApp::top()); };
+  EXPECT_EQ(gadgets().count(), 0u);
+  library_.addAlbum("Pets");
+  library_.addSyncedAlbum("Synced");
+  library_.addCollection({.title = "Family", .subtype = 101});
+  library_.addAsset({.mediaType = device::MediaType::video, .creationDate = 1});
+  library_.addAsset({.creationDate = 2, .isHidden = true});
+  library_.addAsset({.creationDate = 3, .smartSubtype = 200});
+  for (const std::string_view tab : {"Photos", "Albums"}) me_.tap(tab);
+
+  Titles kinds;
+  for (const Object gadget : gadgets()) {
+    const bool isList = ask<"gadgetType", NSUInteger>(gadget) == 10;
+    const auto provider = isList ? Object() : ask<"provider", Object>(gadget);
+    kinds.push_back(ask<"localizedTitle", NSString>(gadget).utf8() + " " +
+                    std::to_string(ask<"albumListType", NSUInteger>(provider)));
+  }
+  EXPECT_EQ(kinds, (Titles{"My Albums 1", "Shared Albums 2", "People & Places 3", "Media Types 0",
+                           "Other Albums 0"}));
+  const std::string screen = me_.screen();
+  EXPECT_EQ(screen.find("See All"), screen.rfind("See All")) << screen;
+  for (const std::string_view empty : {"Selfies", "Places", "Imports"})
+    EXPECT_NE(refusal([&] { me_.tap(empty); }), "") << empty;
+  for (const auto& [album, asset] : {std::pair{"Videos", "Video, 1970-01-01 00:00:01"},
+                                     std::pair{"Hidden", "Photo, 1970-01-01 00:00:02"}}) {
+    me_.tap(album);
+    EXPECT_TRUE(me_.sees(asset)) << album;
+    me_.back();
+  }
+
+  me_.tap("See All");
+  const auto canMove = [&](NSInteger item) {
+    return ask<"collectionView:canMoveItemAtIndexPath:", bool>(PhotosApp::top(), Object(), pathTo(item));
+  };
+  EXPECT_FALSE(canMove(0));
+  me_.tap("Edit");
+  EXPECT_TRUE(canMove(0));
+  EXPECT_FALSE(canMove(1)) << "a computer's";
 }
 
 TEST_F(PhotosUI, ABarShowsTheFirstOfItsItemsOnTheOutside) {
