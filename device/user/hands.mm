@@ -108,13 +108,17 @@ UIView* scrolledTo(UIScrollView* scrollView, std::string_view text) {
     }
   }
   [scrollView _dragToContentOffset:start];
+  [scrollView layoutIfNeeded];
   return nil;
 }
 
 UIView* find(std::string_view text) {
   settle();
   if (UIView* found = reachable(text)) return found;
-  for (UIView* view : reachableViews()) {
+  // From the inside out: what is within another one leaves the screen when that is scrolled.
+  const std::vector<UIView*> views = reachableViews();
+  for (auto each = views.rbegin(); each != views.rend(); ++each) {
+    UIView* view = *each;
     if (![view isKindOfClass:[UIScrollView class]]) continue;
     if (UIView* found = scrolledTo(static_cast<UIScrollView*>(view), text)) return found;
   }
