@@ -77,6 +77,7 @@ class NSArray : public HostClass<"NSArray"> {
   bool containsObject(Object object) const { return send<"containsObject:", bool(Object)>(object); }
   ListIterator<NSArray> begin() const { return {*this, 0}; }
   ListIterator<NSArray> end() const { return {*this, count()}; }
+  Ref<NSArray> copy() const { return Ref<NSArray>::adopt(send<"copy", NSArray()>()); }
   bool writeToFile(NSString path, bool atomically) const {
     return send<"writeToFile:atomically:", bool(NSString, bool)>(path, atomically);
   }
@@ -97,6 +98,13 @@ class NSMutableArray : public HostClass<"NSMutableArray", NSArray> {
   void addObject(Object object) const {
     if (object) send<"addObject:", void(Object)>(object);
   }
+};
+
+class NSSet : public HostClass<"NSSet"> {
+ public:
+  using HostClass::HostClass;
+  bool containsObject(Object object) const { return send<"containsObject:", bool(Object)>(object); }
+  static Ref<NSSet> of(NSArray array) { return makeObject<NSSet, "initWithArray:">(array); }
 };
 
 /// What a collection of the host holds, of whatever class that walks it: an array, a set, a fetch result.

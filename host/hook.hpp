@@ -64,11 +64,12 @@ struct Replacement;
 /// The C function that stands in for the host's method, and the one slot that keeps what it replaced.
 template <auto Function, class Receiver, class Result, class... Parameters>
 struct Replacement<Function, Result (*)(Receiver, Replaced<Result(Parameters...)>, Parameters...)> {
+  using Host = Replaced<Result(Parameters...)>;
   static inline constinit IMP slot = nullptr;
 
   static typename Wire<Result>::Type call(id self, SEL selector,
                                           typename Wire<Parameters>::Type... arguments) {
-    const Replaced<Result(Parameters...)> host(self, selector, slot);
+    const Host host(self, selector, slot);
     if constexpr (std::is_void_v<Result>) {
       Function(Receiver(self), host, Wire<Parameters>::from(arguments)...);
     } else {
@@ -139,6 +140,15 @@ consteval HookRow add(const char* className, const char* selector, const char* e
   if (!hook_details::Addition<Function>::hasEncoding(encoding))
     throw "the function has another type encoding";
   return {className, selector, encoding, &hook_details::Addition<Function>::install};
+}
+
+/// What `Function` replaced, for another hook that needs the host's own method: as if that had been called
+/// for the receiver, of the class in the function's row.
+template <auto Function, Name Selector>
+auto replacedBy(Object receiver) {
+  using hook_details::Replacement;
+  return
+      typename Replacement<Function>::Host(receiver.get(), selector<Selector>(), Replacement<Function>::slot);
 }
 
 /// Whether each replacement is used by one row only: it has one slot for what it replaced.

@@ -19,6 +19,12 @@ class PHFetchOptions : public HostClass<"PHFetchOptions"> {
     send<"setSortDescriptors:", void(NSArray)>(descriptors);
   }
   void setIncludeHiddenAssets(bool include) const { send<"setIncludeHiddenAssets:", void(bool)>(include); }
+  static Ref<PHFetchOptions> includingHidden() {
+    const auto options = makeObject<PHFetchOptions>();
+    options->setIncludeHiddenAssets(true);
+    return options;
+  }
+  Ref<PHFetchOptions> copy() const { return Ref<PHFetchOptions>::adopt(send<"copy", PHFetchOptions()>()); }
 };
 
 /// What a fetch found. It is no NSArray.
@@ -44,6 +50,9 @@ class PHCollection : public HostClass<"PHCollection"> {
   using HostClass::HostClass;
   /// As shown; may be nil.
   NSString localizedTitle() const { return send<"localizedTitle", NSString()>(); }
+  /// Nil for a folder.
+  NSString title() const { return trySend<"title", NSString()>(); }
+  bool isTrashBin() const { return trySend<"isTrashBin", bool()>(); }
   /// Whether assets may be put into it, or taken out: asking for a change of another one raises.
   bool allowsAddingAssets() const { return allows(EditOperation::addContent); }
   bool allowsRemovingAssets() const { return allows(EditOperation::removeContent); }
@@ -71,19 +80,30 @@ inline PHFetchResult<PHCollection> PHCollection::fetchInFolder(PHCollectionList 
                                                                                     PHFetchOptions());
 }
 
+/// An album or a smart album. Lists mix them with other collections, so that these may be seen as one, too.
 class PHAssetCollection : public HostClass<"PHAssetCollection", PHCollection> {
  public:
   using HostClass::HostClass;
-  enum class Type : NSInteger { album = 1, smartAlbum = 2, moment = 3 };
+  enum class Type : NSInteger { none = 0, album = 1, smartAlbum = 2, moment = 3 };
   enum class Subtype : NSInteger {
+    none = 0,
     albumRegular = 2,
     allHidden = 205,
     userLibrary = 209,
     any = std::numeric_limits<NSInteger>::max()
   };
 
-  Type type() const { return send<"assetCollectionType", Type()>(); }
-  Subtype subtype() const { return send<"assetCollectionSubtype", Subtype()>(); }
+  /// None for another collection, such as a folder.
+  Type type() const {
+    return understands<"assetCollectionType">() ? send<"assetCollectionType", Type()>() : Type::none;
+  }
+  Subtype subtype() const {
+    return understands<"assetCollectionSubtype">() ? send<"assetCollectionSubtype", Subtype()>()
+                                                   : Subtype::none;
+  }
+  /// Whether it says that it has a subtype. One that does not may still have one, of the object that it
+  /// stands for.
+  bool tellsSubtype() const { return responds<"assetCollectionSubtype">(); }
 
   static PHFetchResult<PHAssetCollection> fetch(Type type, Subtype subtype, PHFetchOptions options) {
     return sendToClass<"fetchAssetCollectionsWithType:subtype:options:",
@@ -97,11 +117,15 @@ class PHAssetCollection : public HostClass<"PHAssetCollection", PHCollection> {
   }
   /// The albums of that type which hold the asset, never a smart album.
   static PHFetchResult<PHAssetCollection> fetchContaining(PHAsset asset, Type type);
+  /// A collection of these assets that is kept nowhere, of type album. The title may be nil.
+  static PHAssetCollection transient(NSArray assets, NSString title) {
+    return sendToClass<"transientAssetCollectionWithAssets:title:", PHAssetCollection(NSArray, NSString)>(
+        hostClass(), assets, title);
+  }
   /// The user's albums that bear exactly this title, those among them that a computer keeps on the phone.
   static PHFetchResult<PHAssetCollection> userAlbums(NSString title) {
-    const auto options = makeObject<PHFetchOptions>();
+    const auto options = PHFetchOptions::includingHidden();
     options->setPredicate(NSPredicate::make("title = %@", title));
-    options->setIncludeHiddenAssets(true);
     return fetch(Type::album, Subtype::any, options.get());
   }
 };
@@ -122,9 +146,7 @@ class PHAsset : public HostClass<"PHAsset"> {
   }
   /// All that the collection holds, hidden assets as well.
   static PHFetchResult<PHAsset> fetchAllInAssetCollection(PHAssetCollection collection) {
-    const auto options = makeObject<PHFetchOptions>();
-    options->setIncludeHiddenAssets(true);
-    return fetchInAssetCollection(collection, options.get());
+    return fetchInAssetCollection(collection, PHFetchOptions::includingHidden().get());
   }
 };
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include "host/foundation.hpp"
 #include "host/photos.hpp"
 #include "host/uikit.hpp"
@@ -142,6 +145,30 @@ inline Ref<NSArray> selectedPhotos(Object controller) {
   const Object snapshot = manager.trySend<"selectionSnapshot", Object()>();
   return elementsOf(snapshot.trySend<"fetchSelectedObjects", Object()>());
 }
+
+/// A part of the Albums tab: a strip of albums, a list of them, whatever a version of the app has.
+class PXGadget : public Object {
+ public:
+  using Object::Object;
+  std::uint64_t gadgetType() const { return trySend<"gadgetType", std::uint64_t()>(); }
+  /// Of which albums it is a strip; nothing where it is none.
+  std::optional<std::uint64_t> albumListType() const {
+    if (!responds<"provider">()) return std::nullopt;
+    return send<"provider", Object()>().trySend<"albumListType", std::uint64_t()>();
+  }
+};
+
+/// What the Albums tab is made of.
+class PXGadgetDataSource : public HostClass<"PXGadgetDataSource"> {
+ public:
+  using HostClass::HostClass;
+};
+
+/// Tells the lists of albums what they show, and what may be done with it.
+class PXPhotoKitCollectionsDataSourceManager : public HostClass<"PXPhotoKitCollectionsDataSourceManager"> {
+ public:
+  using HostClass::HostClass;
+};
 
 class PUTabbedLibraryViewController : public HostClass<"PUTabbedLibraryViewController", UIViewController> {
  public:

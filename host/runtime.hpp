@@ -184,6 +184,12 @@ class Object {
     return send<"respondsToSelector:", bool(SEL)>(selector<Selector>());
   }
 
+  /// Whether it takes the message, its own methods aside also one that it hands on to another object.
+  template <Name Selector>
+  bool understands() const {
+    return responds<Selector>() || send<"methodSignatureForSelector:", Object(SEL)>(selector<Selector>());
+  }
+
   bool isKindOf(Class type) const { return type != nullptr && send<"isKindOfClass:", bool(Class)>(type); }
 
   /// The object seen as a `View`, or nil when it is of another class: for what came out of a file or a

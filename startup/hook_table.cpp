@@ -3,6 +3,9 @@
 #include "camera/album_chooser.hpp"
 #include "camera/capture_move.hpp"
 #include "camera/thumbnail.hpp"
+#include "library_filter/asset_fetch.hpp"
+#include "library_filter/listed_collections.hpp"
+#include "photos/cells/collection_filter.hpp"
 #include "photos/cells/shown_controllers.hpp"
 #include "photos/cells/tile_buttons.hpp"
 #include "photos/cells/tile_layout.hpp"
@@ -60,6 +63,7 @@ constexpr HookRow kPhotosHooks[] = {
     replace<deleteAlbum>("PUAlbumListViewController", "albumListCellContentView:performDeleteAction:"),
     replace<listSetEditing>("PUAlbumListViewController", "setEditing:animated:"),
     replace<skipDeleteConfirmation>("PUDeletePhotosActionController", "shouldSkipDeleteConfirmation"),
+    replace<collectionsInPhotos>("PHCollectionList", "collections"),
     replace<layOutTile>("PUAlbumListCellContentView", "layoutSubviews"),
     replace<tileSetEditing>("PUAlbumListCellContentView", "setEditing:animated:"),
     add<createButtons>("PUAlbumListCellContentView", "createButtons", "v@:"),
@@ -76,6 +80,9 @@ constexpr HookRow kPhotosHooks[] = {
     replace<gridWillAppear>("PUZoomableGridViewController", "viewWillAppear:"),
     replace<contentWillAppear>("PXPhotosContentController", "contentViewWillAppear:"),
     replace<curatedLibraryWillAppear>("PXCuratedLibraryUIViewController", "viewWillAppear:"),
+    replace<gadgets>("PXGadgetDataSource", "gadgets"),
+    replace<containsAnyAssets>("PXPhotoKitCollectionsDataSourceManager", "_containsAnyAssets:"),
+    replace<canReorder>("PXPhotoKitCollectionsDataSourceManager", "canReorderCollection:"),
 };
 
 constexpr HookRow kSpringBoardHooks[] = {
@@ -84,9 +91,24 @@ constexpr HookRow kSpringBoardHooks[] = {
     add<serveAuthenticate>("SpringBoard", "authenticate:withUserInfo:", "v@:@@"),
 };
 
+// Every app gets these as well. In Photos the lists of collections are replaced twice: what comes last is
+// called first.
+constexpr HookRow kLibraryFilterHooks[] = {
+    replace<listedCollections>("PHCollectionList", "collections"),
+    replace<fetchedObjects>("PHFetchResult", "fetchedObjects"),
+    replaceClassMethod<fetchAssets>("PHAsset", "fetchAssetsInAssetCollection:options:"),
+    replaceClassMethod<fetchKeyAssets>("PHAsset", "fetchKeyAssetsInAssetCollection:options:"),
+    replaceClassMethod<fetchAssetCollections>("PHAssetCollection",
+                                              "fetchAssetCollectionsWithType:subtype:options:"),
+    replace<estimatedAssetCount>("PHAssetCollection", "estimatedAssetCount"),
+    replace<startsAtEnd>("PHAssetCollection", "startsAtEnd"),
+    replace<keyAssetsAtEnd>("PHAssetCollection", "keyAssetsAtEnd"),
+};
+
 static_assert(replacementsAreDistinct(kCameraHooks));
 static_assert(replacementsAreDistinct(kPhotosHooks));
 static_assert(replacementsAreDistinct(kSpringBoardHooks));
+static_assert(replacementsAreDistinct(kLibraryFilterHooks));
 
 }  // namespace
 
@@ -104,6 +126,6 @@ std::span<const HookRow> hooksOf(HookGroup group) {
   return {};
 }
 
-std::span<const HookRow> libraryFilterHooks() { return {}; }
+std::span<const HookRow> libraryFilterHooks() { return kLibraryFilterHooks; }
 
 }  // namespace velvault12

@@ -1,5 +1,6 @@
 #include "photos/cells/shown_controllers.hpp"
 
+#include "photos/list/album_title.hpp"
 #include "photos/list/controller_registry.hpp"
 
 namespace velvault12 {
@@ -10,6 +11,7 @@ void albumViewSetAlbum(PUPhotosAlbumViewController view,
                        Object existingResults) {
   controllerRegistry().albumView = Ref(view);
   controllerRegistry().gridShown = false;
+  controllerRegistry().albumIsCameraRoll = isCameraRoll(album);
   host(album, containingResult, filter, existingResults);
 }
 

@@ -5,7 +5,7 @@
 
 namespace velvault12 {
 
-// What is on screen is recorded, so that it is known where its user selects photos.
+// What is on screen is recorded, so that it is known where its user selects photos and which album is open.
 
 void albumViewSetAlbum(PUPhotosAlbumViewController view,
                        Replaced<void(PHAssetCollection, Object, NSPredicate, Object)> host,

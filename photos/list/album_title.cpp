@@ -25,4 +25,9 @@ NSString titleOf(PUAlbumListViewController list, PUAlbumListCellContentView tile
   return isTold(shown) ? shown : list.collectionOf(tile).localizedTitle();
 }
 
+bool isCameraRoll(PHCollection collection) {
+  const NSString title = collection.localizedTitle();
+  return title && title.isEqualToString(NSString::from("Camera Roll"));
+}
+
 }  // namespace velvault12

@@ -11,4 +11,7 @@ NSString titleAt(PUHorizontalAlbumListGadget strip, NSIndexPath path);
 NSString titleAt(PUAlbumListViewController list, NSIndexPath path);
 NSString titleOf(PUAlbumListViewController list, PUAlbumListCellContentView tile);
 
+/// Whether it is called as the camera roll is on an English phone.
+bool isCameraRoll(PHCollection collection);
+
 }  // namespace velvault12

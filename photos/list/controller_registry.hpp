@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+
 #include "host/photos_ui.hpp"
 #include "host/reference.hpp"
 #include "photos/list/answer_rules.hpp"
@@ -22,6 +24,8 @@ struct ControllerRegistry {
   Ref<Object> curatedLibrary;
   /// A zoomable grid has come on screen since a view was last given an album.
   bool gridShown = false;
+  /// The album that it was given is the camera roll. Any thread: lists of albums are made on others as well.
+  std::atomic<bool> albumIsCameraRoll = false;
 
   /// Records who an answer will be for.
   void recordRequesting(Object requester);

@@ -1,6 +1,7 @@
 #include "photos/list/picker.hpp"
 
 #include "host/reference.hpp"
+#include "photos/list/album_title.hpp"
 #include "photos/list/photo_move.hpp"
 #include "startup/settings.hpp"
 
@@ -13,8 +14,7 @@ namespace {
 bool takesPhotos(PUAlbumListViewController list, NSIndexPath path) {
   if (list.isPlaceholderAtIndexPath(path)) return false;
   const auto album = list.collectionAtIndexPath(path).as<PHAssetCollection>();
-  return album && album.allowsAddingAssets() &&
-         !album.localizedTitle().isEqualToString(NSString::from("Camera Roll"));
+  return album && album.allowsAddingAssets() && !isCameraRoll(album);
 }
 
 /// What a pad's sheet points to. The list may show its albums as a table, which has no such cells.
@@ -26,7 +26,7 @@ UIView sourceAt(PUAlbumListViewController list, NSIndexPath path) {
 }  // namespace
 
 void chooseAlbum(PUAlbumListViewController list, NSIndexPath path, Replaced<void(NSIndexPath)> host) {
-  if (!settings().enabled || !list.pickerBannerView() || !takesPhotos(list, path)) {
+  if (!settings()->enabled || !list.pickerBannerView() || !takesPhotos(list, path)) {
     host(path);
     return;
   }

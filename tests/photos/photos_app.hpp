@@ -65,7 +65,11 @@ class PhotosApp : public PhoneTest {
     return sendToClass<"indexPathForItem:inSection:", NSIndexPath(NSInteger, NSInteger)>(
         NSIndexPath::hostClass(), item, 0);
   }
-  static PUAlbumListCellContentView tile(NSInteger item) { return albumList().tileAtIndexPath(pathTo(item)); }
+  /// Where one of the user's albums is, in the strip and in the list: behind the camera roll.
+  static NSIndexPath placeOf(NSInteger album) { return pathTo(album + 1); }
+  static PUAlbumListCellContentView tile(NSInteger album) {
+    return albumList().tileAtIndexPath(placeOf(album));
+  }
   /// Uses the tile for another album.
   static void show(std::string_view title, PUAlbumListCellContentView tile) {
     tile.send<"setTitle:", void(NSString)>(NSString::from(title));

@@ -12,7 +12,8 @@
 namespace velvault12 {
 namespace {
 
-// What each host gets: classes, behind each its methods that are replaced, in their order, and new ones (+).
+// What each host gets: classes, behind each its methods that are replaced, in their order, and new ones (+). A
+// class's own methods begin with a dot.
 constexpr const char* kCameraMethods = R"(
     CAMCaptureEngine captureOutput:didFinishCaptureForResolvedSettings:error: +movePhoto
     CAMMetalView layoutSubviews +chooseAlbum +createNewAlbum +adjustRotationToSize:
@@ -33,6 +34,7 @@ constexpr const char* kPhotosMethods = R"(
         +handleLongPress: +unlockAlbum:withAlbum: +requestPassword: +unlockAuthorised:
         +reloadCameraRollWithMove: +handleCameraTap: +returnSelectedPhotos:
     PUDeletePhotosActionController shouldSkipDeleteConfirmation
+    PHCollectionList collections
     PUAlbumListCellContentView layoutSubviews setEditing:animated: title
         +unlockAlbum:withAlbum: +requestPassword: +unlockAuthorised:
         +createButtons +askToMoveAlbum +moveAlbum +lockAlbum
@@ -40,15 +42,24 @@ constexpr const char* kPhotosMethods = R"(
         setAssetCollection:fetchResultContainingAssetCollection:filterPredicate:existingFetchResults:
     PUZoomableGridViewController viewWillAppear:
     PXPhotosContentController contentViewWillAppear:
-    PXCuratedLibraryUIViewController viewWillAppear:)";
+    PXCuratedLibraryUIViewController viewWillAppear:
+    PXGadgetDataSource gadgets
+    PXPhotoKitCollectionsDataSourceManager _containsAnyAssets: canReorderCollection:)";
+constexpr const char* kMethodsOfAll = R"(
+    PHCollectionList collections
+    PHFetchResult fetchedObjects
+    PHAsset .fetchAssetsInAssetCollection:options: .fetchKeyAssetsInAssetCollection:options:
+    PHAssetCollection .fetchAssetCollectionsWithType:subtype:options:
+        estimatedAssetCount startsAtEnd keyAssetsAtEnd)";
 constexpr std::pair<std::string_view, const char*> kMethods[] = {{device::kCamera, kCameraMethods},
                                                                  {device::kSpringBoard, kSpringBoardMethods},
-                                                                 {device::kPhotos, kPhotosMethods}};
+                                                                 {device::kPhotos, kPhotosMethods},
+                                                                 {"", kMethodsOfAll}};
 
 using Host = std::tuple<std::string_view, bool>;
 class Constructor : public PhoneTest, public ::testing::WithParamInterface<Host> {};
-const std::string_view kHosts[] = {device::kSpringBoard,    device::kPhotos,  device::kCamera,
-                                   "com.apple.store.Jolly", device::kGallery, ""};
+const std::string_view kHosts[] = {device::kSpringBoard, device::kPhotos,  device::kCamera,
+                                   device::kShopDemo,    device::kGallery, ""};
 INSTANTIATE_TEST_SUITE_P(On, Constructor, ::testing::Combine(::testing::ValuesIn(kHosts), ::testing::Bool()));
 
 TEST_P(Constructor, DoesWhatTheHostIsToGetAndNothingElse) {
@@ -59,9 +70,11 @@ TEST_P(Constructor, DoesWhatTheHostIsToGetAndNothingElse) {
   device::loadInjectedLibraries();
 
   std::vector<std::string> replaced, expected;
-  for (const auto& hook : device::installedHooks()) replaced.push_back(hook.className + " " + hook.selector);
+  for (const auto& hook : device::installedHooks())
+    replaced.push_back(hook.className + (hook.isClassMethod ? " ." : " ") + hook.selector);
   for (const auto& [owner, methods] : kMethods) {
-    const bool isMade = enabled && owner == host;
+    const bool isOfAll = owner.empty() && host != device::kShopDemo;
+    const bool isMade = enabled && (isOfAll || owner == host);
     std::istringstream words(methods);
     std::string className;
     for (std::string word; words >> word;) {

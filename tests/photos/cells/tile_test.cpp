@@ -25,7 +25,7 @@ using Titles = std::vector<std::string>;
 class Tiles : public PhotosApp {
  protected:
   static PUAlbumListCellContentView stripTile(NSInteger item) {
-    return albumTile(strip().gadgetAtIndexPath(pathTo(item)));
+    return albumTile(strip().gadgetAtIndexPath(placeOf(item)));
   }
   static UIView overlay(UIView tile) { return tile.subviewWithTag<UIView>(kOverlay); }
   static int count(UIView tile, NSInteger tag) {
@@ -184,7 +184,7 @@ TEST_F(Tiles, TheTextsFollowTheSettings) {
   EXPECT_FALSE(overlay(shown)) << "the tile does not know its album";
   me_.back();
   me_.tap("See All");
-  albumList().select(pathTo(0));
+  albumList().select(placeOf(0));
   settle();
   EXPECT_EQ(openAlbum(), "");
   EXPECT_EQ(owner().ownerRequest(), "Holidays needs to be unlocked.") << "but the lock holds";
@@ -204,7 +204,7 @@ TEST_F(Tiles, TheTextsFollowTheSettings) {
   EXPECT_EQ(albums().size(), 3u);
   me_.tap("Done");
   me_.back();
-  strip().select(pathTo(0));
+  strip().select(placeOf(0));
   settle();
   EXPECT_EQ(owner().ownerRequest(), "Holidays needs to be unlocked.");
 }

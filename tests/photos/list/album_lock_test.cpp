@@ -170,13 +170,13 @@ TEST_F(PhotosApp, TheLockFollowsTheTitle) {
   open(From::list, {"Holidays", "Album 39"});
   const Ref<PUAlbumListViewController> list(albumList());
   const auto select = [&](NSInteger item) {
-    list->select(pathTo(item));
+    list->select(placeOf(item));
     settle();
     const std::string opened = openAlbum();
     if (!opened.empty()) me_.back();
     return opened;
   };
-  ASSERT_FALSE(list->tileAtIndexPath(pathTo(44))) << "out of sight";
+  ASSERT_FALSE(list->tileAtIndexPath(placeOf(44))) << "out of sight";
   EXPECT_EQ(select(44), "");
   EXPECT_EQ(owner().ownerRequest(), "Album 39 needs to be unlocked.");
   EXPECT_EQ(select(3), "") << "the second of that title";
@@ -189,14 +189,14 @@ TEST_F(PhotosApp, TheLockFollowsTheTitle) {
 
 /// The first album's tile: it has a title, but no tile.
 Object gadgetWithoutTile(PUHorizontalAlbumListGadget, Replaced<Object(NSIndexPath)> host, NSIndexPath) {
-  return albumTile(host(PhotosApp::pathTo(0)));
+  return albumTile(host(PhotosApp::placeOf(0)));
 }
 
 TEST_F(PhotosApp, AGadgetWithoutATileIsKnownByItsOwnTitle) {
   open(From::strip, {"Holidays"});
   const HookRow row[] = {replace<gadgetWithoutTile>("PUHorizontalAlbumListGadget", "_gadgetAtIndexPath:")};
   installHooks(row);
-  strip().select(pathTo(1));
+  strip().select(placeOf(1));
   settle();
   EXPECT_EQ(owner().ownerRequest(), "Holidays needs to be unlocked.");
 }
@@ -468,10 +468,10 @@ TEST_F(PhotosApp, AppearingReadsTheLockedAlbumsAndStartsAListWhereThereIsNone) {
   me_.tap("See All");
   EXPECT_TRUE(soonLocked({}));
   me_.back();
-  writeStrings(kLockedAlbums, {"Pets"});
-  EXPECT_EQ(tapped("Pets"), "Pets") << "choosing an album reads no file";
+  writeStrings(kLockedAlbums, {"Holidays"});
+  EXPECT_EQ(tapped("Holidays"), "Holidays") << "choosing an album reads no file";
   me_.back();
-  EXPECT_EQ(tapped("Pets"), "") << "the strip has appeared since";
+  EXPECT_EQ(tapped("Holidays"), "") << "the strip has appeared since";
 }
 
 TEST_F(PhotosApp, WithoutSpringBoardNothingWaitsAndNothingOpens) {
@@ -501,7 +501,7 @@ TEST_P(EitherWay, TenThousandSelectionsLeaveNothingBehind) {
   open(GetParam(), {"Holidays"});
   springBoard_->kill();
   const Object controller = GetParam() == From::list ? Object(albumList()) : Object(strip());
-  const NSIndexPath path = pathTo(0);
+  const NSIndexPath path = placeOf(0);
   const auto select = [&](int times) {
     for (int i = 0; i < times; ++i) {
       const AutoreleasePool turn;

@@ -1,0 +1,57 @@
+#include "library_filter/listed_collections.hpp"
+
+#include "library_filter/asset_fetch.hpp"
+#include "library_filter/collection_traits.hpp"
+#include "library_filter/photos_app.hpp"
+#include "startup/settings.hpp"
+
+namespace velvault12 {
+
+namespace {
+
+/// Adds the regular albums of the library that are not among the listed ones.
+void addAlbumsFromFolders(NSMutableArray shown, NSArray listed, const Settings& settings,
+                          LockedAlbums& locked) {
+  const Ref<NSSet> known = NSSet::of(listed);
+  const auto albums =
+      PHAssetCollection::fetch(PHAssetCollection::Type::album, PHAssetCollection::Subtype::albumRegular, {});
+  for (const auto album : albums) {
+    if (known->containsObject(album)) continue;
+    // There may be thousands of albums, and of photos in them.
+    const AutoreleasePool fetched;
+    const CollectionTraits traits = traitsOf(album);
+    if (!isTakenOutOfFolder(traits.title, settings, locked)) continue;
+    const bool isLocked = traits.title && locked.contains(*traits.title);
+    const auto assets = elementsOf(isLocked ? PHFetchResult<PHAsset>() : fetchFromHost(album));
+    shown.addObject(PHAssetCollection::transient(assets.get(), album.title()));
+  }
+}
+
+bool beginsAtEnd() {
+  const auto chosen = settings();
+  return chosen->enabled && chosen->startAtBottom;
+}
+
+}  // namespace
+
+NSArray listedCollections(PHCollectionList, Replaced<NSArray()> host) {
+  const NSArray listed = host();
+  const auto chosen = settings();
+  if (!listed || !chosen->enabled || isPhotosApp()) return listed;
+  LockedAlbums locked;
+  auto shown = makeObject<NSMutableArray>();
+  bool hasAlbums = false;
+  for (const Object each : listed) {
+    const CollectionTraits traits = traitsOf(PHAssetCollection(each.get()));
+    if (isListedInOtherApps(traits, *chosen, locked)) shown->addObject(each);
+    hasAlbums = hasAlbums || traits.isRegularAlbum();
+  }
+  if (hasAlbums) addAlbumsFromFolders(shown.get(), listed, *chosen, locked);
+  return std::move(shown).autorelease();
+}
+
+bool startsAtEnd(PHAssetCollection, Replaced<bool()> host) { return beginsAtEnd() || host(); }
+
+bool keyAssetsAtEnd(PHAssetCollection, Replaced<bool()> host) { return beginsAtEnd() || host(); }
+
+}  // namespace velvault12
