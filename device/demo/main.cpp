@@ -5,6 +5,7 @@
 
 #include "device/demo/album_lock_chapters.hpp"
 #include "device/demo/camera_chapters.hpp"
+#include "device/demo/library_chapters.hpp"
 #include "device/demo/page.hpp"
 #include "device/demo/phone.hpp"
 #include "device/demo/photo_chapters.hpp"
@@ -35,11 +36,12 @@ bool bootAndLook(Story& story, Phone& phone) {
 
 int play(const std::filesystem::path& folder) {
   Phone phone(folder, VELVAULT12_LIBRARY, VELVAULT12_FILTER, VELVAULT12_IMAGES);
-  Story story([&phone] { return phone.picture(); });
+  Story story([&phone] { return phone.pictures(); });
   if (bootAndLook(story, phone)) {
     tellAlbumLock(story, phone);
     tellCamera(story, phone);
     tellPhotos(story, phone);
+    tellLibraryFilter(story, phone);
   }
   std::printf("\n%d of %d steps went as told. The phone's disk is left in %s.\n",
               story.steps() - story.failures(), story.steps(), folder.c_str());

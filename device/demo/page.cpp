@@ -44,6 +44,10 @@ pre.answer { white-space: pre; overflow-x: auto; font: 12px/1.5 ui-monospace, Me
 .badge { display: inline-block; margin: 0 0 10px; padding: 1px 10px; border-radius: 99px; background: var(--bad);
   color: #fff; font-size: 14px; }
 img { display: block; width: 100%; height: auto; }
+.compared { grid-template-columns: 1fr; }
+.compared > section { display: grid; grid-template-columns: repeat(auto-fit, minmax(min(200px, 100%), 1fr)); gap: 28px; }
+figure { margin: 0; }
+figcaption { color: var(--dim); text-align: center; margin: 0 0 8px; }
 @media (max-width: 640px) {
   article { grid-template-columns: 1fr; padding: 20px; }
   img { width: min(240px, 100%); margin: 0 auto; }
@@ -114,25 +118,39 @@ class Page {
                               element("h3", "", html(step.text)) +
                               (step.wentAsTold ? "" : element("p", "class=\"badge\"", "Not so")) +
                               element(isTree ? "pre" : "p", "class=\"answer\"", html(step.answer));
-    return element("article", step.wentAsTold ? "" : "class=\"failed\"",
-                   "\n" + element("div", "", words) + picture(step));
+    const std::string look =
+        std::string(step.wentAsTold ? "" : "failed ") + (step.pictures.size() > 1 ? "compared" : "");
+    return element("article", look.empty() ? "" : "class=\"" + look + "\"",
+                   "\n" + element("div", "", words) + pictures(step));
+  }
+
+  std::string pictures(const Step& step) {
+    std::string all;
+    for (const Picture& each : step.pictures) {
+      const std::string caption = each.caption.empty() ? "" : element("figcaption", "", html(each.caption));
+      all += element("figure", "", caption + picture(each));
+    }
+    return all.empty() ? "" : element("section", "", all);
   }
 
   /// Both forms are kept: the page shows the PNG, which looks alike everywhere.
-  std::string picture(const Step& step) {
-    if (!step.picture) return "";
-    const auto [file, isNew] = stems_.try_emplace(*step.picture, std::string(kPictures) + "/" + number());
+  std::string picture(const Picture& picture) {
+    const auto [file, isNew] =
+        stems_.try_emplace(picture.svg, std::string(kPictures) + "/" + numbered(stems_.size() + 1));
     const std::string& stem = file->second;
     if (isNew) {
-      write(folder_ / (stem + ".svg"), *step.picture);
-      writePng(*step.picture, folder_ / (stem + ".png"));
+      write(folder_ / (stem + ".svg"), picture.svg);
+      writePng(picture.svg, folder_ / (stem + ".png"));
     }
-    const std::string image = "<img src=\"" + stem + ".png\" loading=\"lazy\" alt=\"The phone after step " +
-                              std::to_string(steps_) + "\">";
+    const std::string what = picture.caption.empty() ? "The phone" : html(picture.caption);
+    const std::string image = "<img src=\"" + stem + ".png\" loading=\"lazy\" alt=\"" + what +
+                              " after step " + std::to_string(steps_) + "\">";
     return element("a", "href=\"" + stem + ".svg\"", image);
   }
 
-  std::string number() const { return (steps_ < 10 ? "0" : "") + std::to_string(steps_); }
+  static std::string numbered(std::size_t number) {
+    return (number < 10 ? "0" : "") + std::to_string(number);
+  }
 
   std::string outcome() const {
     return std::to_string(steps_ - failures_) + " of " + std::to_string(steps_) +

@@ -53,14 +53,20 @@ const User& Phone::in(std::string_view app) const {
   return apps_.at(app).user();
 }
 
-std::optional<std::string> Phone::picture() const {
-  const auto app = apps_.find(inFront_);
-  if (app == apps_.end()) return std::nullopt;
-  try {
-    return app->second.user().picture();
-  } catch (const std::runtime_error&) {
-    return std::nullopt;
-  }
+std::vector<Picture> Phone::pictures() const {
+  std::vector<Picture> all;
+  const auto look = [&](std::string_view name, std::string_view caption) {
+    const auto app = apps_.find(name);
+    if (app == apps_.end()) return;
+    try {
+      all.push_back({std::string(caption), app->second.user().picture()});
+    } catch (const std::runtime_error&) {
+      // It has crashed.
+    }
+  };
+  if (compared_.empty()) look(inFront_, "");
+  for (const auto& [app, caption] : compared_) look(app, caption);
+  return all;
 }
 
 void Phone::changeSettings(const std::map<std::string, Device::Preference>& preferences) const {

@@ -3,11 +3,12 @@
 #include <filesystem>
 #include <functional>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "device/demo/story.hpp"
 #include "device/device.hpp"
 
 namespace device {
@@ -28,9 +29,14 @@ class Phone {
   /// The user of an app that has been opened.
   const User& in(std::string_view app) const;
   void crash(std::string_view app) { apps_.at(app).kill(); }
-  /// What is on screen in the app that was last opened or used; none before the first one and after its
-  /// crash.
-  std::optional<std::string> picture() const;
+  /// What is on screen in the app that was last opened or used, or in those that are compared; none of an app
+  /// that has not been opened or has crashed.
+  std::vector<Picture> pictures() const;
+  /// From now on the story looks at these apps side by side, each under what it is called there; at one again
+  /// when there are none.
+  void compare(std::vector<std::pair<std::string_view, std::string_view>> appsAndCaptions) {
+    compared_ = std::move(appsAndCaptions);
+  }
 
   /// As the settings pane does; every app has read them when it returns.
   void changeSettings(const std::map<std::string, Device::Preference>& preferences) const;
@@ -52,6 +58,7 @@ class Phone {
   std::map<std::string_view, App> apps_;
   /// The app that was last asked for. Of SpringBoard there is nothing to see.
   mutable std::string_view inFront_;
+  std::vector<std::pair<std::string_view, std::string_view>> compared_;
 };
 
 }  // namespace device

@@ -48,7 +48,8 @@ void lookAtTiles(Story& story, Phone& phone) {
   story.step("You open Photos and all of its albums.", [&] {
     const User& photos = phone.open(kPhotos);
     photos.tap("See All");
-    photos.waitToSee("Party");
+    photos.scrollTo("Party");
+    photos.scrollTo("4");
     expect(photos.sees("4"), "the tile of \"Party\" counts its hidden photos");
     return "\"Party\" reads 4: " +
            counted(hiddenIn(phone, "Party"), "of its photos are hidden, and count as well");

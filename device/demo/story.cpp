@@ -29,7 +29,7 @@ void Story::chapter(std::string_view title) {
 
 void Story::step(std::string_view text, const std::function<std::string()>& step) {
   print("  ", text);
-  Step told{.text = std::string(text), .answer = {}, .wentAsTold = true, .picture = {}};
+  Step told{.text = std::string(text), .answer = {}, .wentAsTold = true, .pictures = {}};
   try {
     told.answer = step();
   } catch (const std::exception& error) {
@@ -37,7 +37,7 @@ void Story::step(std::string_view text, const std::function<std::string()>& step
     told.wentAsTold = false;
   }
   print(told.wentAsTold ? "      => " : "  NOT SO ", told.answer);
-  told.picture = look_();
+  told.pictures = look_();
   chapters_.back().steps.push_back(std::move(told));
 }
 

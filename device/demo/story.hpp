@@ -1,12 +1,17 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace device {
+
+/// A phone's screen as an SVG document, and what it shows; no words where there is only one phone.
+struct Picture {
+  std::string caption;
+  std::string svg;
+};
 
 /// What was told, and how it went.
 struct Step {
@@ -14,8 +19,8 @@ struct Step {
   /// What the device answered, or what was expected in vain.
   std::string answer;
   bool wentAsTold;
-  /// The phone's screen afterwards, as an SVG document.
-  std::optional<std::string> picture;
+  /// Afterwards; none where there is nothing to see.
+  std::vector<Picture> pictures;
 };
 
 struct Chapter {
@@ -26,8 +31,8 @@ struct Chapter {
 /// Tells a story step by step, and whether the device did what it tells.
 class Story {
  public:
-  /// Looks at the phone when a step is over; none where there is nothing to see.
-  using Look = std::function<std::optional<std::string>()>;
+  /// Looks at the phone when a step is over.
+  using Look = std::function<std::vector<Picture>()>;
   explicit Story(Look look) : look_(std::move(look)) {}
 
   /// Heads what follows.

@@ -222,6 +222,11 @@ std::string tap(const Arguments& arguments) {
   return {};
 }
 
+std::string scrollTo(const Arguments& arguments) {
+  find(arguments[0]);
+  return {};
+}
+
 std::string longPress(const Arguments& arguments) {
   hold(find(arguments[0]));
   return {};
@@ -349,6 +354,7 @@ struct Command {
 const std::map<std::string_view, Command> kCommands = {
     {"tap", {1, tap}},
     {"longPress", {1, longPress}},
+    {"scrollTo", {1, scrollTo}},
     {"type", {1, type}},
     {"back", {0, back}},
     {"leaveApp", {0, leaveApp}},

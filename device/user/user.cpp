@@ -31,6 +31,7 @@ User User::here() { return User(performHere); }
 std::string User::perform(const std::vector<std::string>& command) const { return hands_(command); }
 
 void User::tap(std::string_view text) const { perform({"tap", std::string(text)}); }
+void User::scrollTo(std::string_view text) const { perform({"scrollTo", std::string(text)}); }
 void User::longPress(std::string_view text) const { perform({"longPress", std::string(text)}); }
 void User::type(std::string_view text) const { perform({"type", std::string(text)}); }
 void User::back() const { perform({"back"}); }

@@ -42,6 +42,8 @@ class User {
   void tap(std::string_view text) const;
   /// Holds a finger on it for as long as its long-press recognizer asks, and lifts it.
   void longPress(std::string_view text) const;
+  /// Scrolls until something that bears the text is in sight.
+  void scrollTo(std::string_view text) const;
   /// Types into the text field of the alert in front, or the first one on screen, replacing its text.
   void type(std::string_view text) const;
   /// Taps the navigation bar's back button.

@@ -70,6 +70,25 @@ TEST_F(CollectionFilter, WhatOtherAppsAreRefusedIsPhotosOwn) {
   EXPECT_EQ(PHAsset::fetchInAssetCollection(smartAlbum(209), {}).count(), 3u);
 }
 
+TEST_F(CollectionFilter, WhatIsLockedHereIsGoneFromTheNextFetchOfAnAppThatRuns) {
+  open(From::strip);
+  const device::App gallery = phone_.launch(device::kGallery);
+  const auto finds = [&](std::string_view row) {
+    gallery.user().tap("Refresh");
+    return gallery.user().sees(row);
+  };
+  EXPECT_TRUE(finds("Pets: 1 photo"));
+  me_.longPress("Pets");
+  EXPECT_TRUE(soonLocked({"Pets"}));
+  EXPECT_FALSE(finds("Pets: 1 photo"));
+  EXPECT_TRUE(finds("fetched Pets: nothing"));
+  EXPECT_TRUE(finds("Recipes: 1 photo"));
+  me_.longPress("Pets");
+  ownerIs(OwnerAnswer::success);
+  EXPECT_TRUE(soonLocked({}));
+  EXPECT_TRUE(finds("Pets: 1 photo"));
+}
+
 TEST_F(CollectionFilter, TheCameraRollComesFirstUntilItIsOpened) {
   open(From::list);
   const Titles albums{"Holidays", "Pets", "Recipes"}, withRoll{"Camera Roll", "Holidays", "Pets", "Recipes"};

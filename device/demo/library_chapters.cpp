@@ -1,0 +1,133 @@
+#include "device/demo/library_chapters.hpp"
+
+#include <string>
+#include <string_view>
+
+#include "device/system/process.hpp"
+
+namespace device {
+namespace {
+
+constexpr std::string_view kLockedAlbums = "/var/mobile/Library/velvault/lockedAlbums.plist";
+constexpr std::string_view kPadlock = "whitelock";
+constexpr std::int64_t kPlaces = 1000000203;
+
+/// Once it has looked at the library again.
+const User& refreshed(const Phone& phone, std::string_view gallery) {
+  const User& user = phone.in(gallery);
+  user.tap("Refresh");
+  return user;
+}
+
+std::string onlyShopShows(const Phone& phone, std::string_view row) {
+  expect(!refreshed(phone, kGallery).sees(row), "the other app does not show it");
+  expect(refreshed(phone, kShopDemo).sees(row), "the demonstration does");
+  return "\"" + std::string(row) + "\" is gone from the other app; the demonstration goes on showing it";
+}
+
+std::string bothShow(const Phone& phone, std::string_view row) {
+  for (const std::string_view app : {kGallery, kShopDemo}) expect(refreshed(phone, app).sees(row), row);
+  return "\"" + std::string(row) + "\" is in both";
+}
+
+/// The Albums tab, made anew.
+const User& albumsTab(const Phone& phone) {
+  const User& photos = phone.in(kPhotos);
+  for (const std::string_view tab : {"Photos", "Albums"}) photos.tap(tab);
+  return photos;
+}
+
+void openAll(Story& story, Phone& phone) {
+  story.chapter("The same library in three apps");
+  PhotoDatabase library = phone.device().photoLibrary();
+  const std::int64_t north = library.addAlbum("North", library.addFolder("Trips"));
+  for (const std::int64_t kind : {kPlaces, std::int64_t{0}}) {
+    library.addToAlbum(
+        library.addAsset({.creationDate = 1'720'000'000, .smartSubtype = kind, .color = 0x118AB2}), north);
+  }
+  phone.compare({{kGallery, "Another app"}, {kPhotos, "Photos"}, {kShopDemo, "A shop's demonstration"}});
+  story.step(
+      "\"Holidays\" is free again, and there is a folder \"Trips\" with an album \"North\". You open three "
+      "apps.",
+      [&] {
+        const User& photos = phone.open(kPhotos);
+        photos.longPress("Holidays");
+        phone.in(kSpringBoard).waitForOwnerRequest();
+        phone.in(kSpringBoard).answerOwnerRequest(OwnerAnswer::success);
+        phone.onceHolds(kLockedAlbums, {});
+        for (const std::string_view app : {kGallery, kShopDemo}) phone.open(app);
+        albumsTab(phone).waitToSee("Holidays");
+        bothShow(phone, "Pets: 3 photos");
+        for (const std::string_view row : {"North: 2 photos", "Holidays: 3 photos"})
+          expect(phone.in(kGallery).sees(row), row);
+        expect(!phone.in(kShopDemo).sees("North: 2 photos"), "it is in its folder");
+        expect(phone.in(kShopDemo).sees("Holidays: 0 photos"), "they are hidden");
+        return std::string(
+            "the other app lists \"North\" beside its folder, and finds the photos of \"Holidays\" that "
+            "were\n"
+            "moved out of the camera roll; the demonstration is left as it is");
+      });
+}
+
+void lockOne(Story& story, Phone& phone) {
+  story.step("In Photos you hold your finger on \"Pets\".", [&] {
+    phone.in(kPhotos).longPress("Pets");
+    phone.onceHolds(kLockedAlbums, {"Pets"});
+    phone.in(kPhotos).waitToSee(kPadlock);
+    const std::string gone = onlyShopShows(phone, "Pets: 3 photos");
+    expect(phone.in(kGallery).sees("fetched Pets: nothing"), "its photos are refused");
+    return gone + ".\nAn app that asks for it by other ways finds its name, and nothing in it";
+  });
+  story.step("In the settings you let other apps list locked albums.", [&] {
+    phone.changeSettings({{"hideLockedFromApps", false}});
+    refreshed(phone, kGallery).waitToSee("Pets: 0 photos");
+    return std::string("\"Pets: 0 photos\": the album is there, and none of its photos");
+  });
+}
+
+void hideSmartAlbums(Story& story, Phone& phone) {
+  story.step("You switch the videos off.", [&] {
+    albumsTab(phone).scrollTo("Videos");
+    phone.changeSettings({{"showVideos", false}});
+    const std::string gone = onlyShopShows(phone, "Videos: 1 photo");
+    albumsTab(phone).waitUntilGone("Videos");
+    return gone + ", and Photos has lost them as well";
+  });
+  story.step("You switch them on again, and hold your finger on \"Places\".", [&] {
+    phone.changeSettings({});
+    bothShow(phone, "Videos: 1 photo");
+    phone.in(kPhotos).longPress("Places");
+    phone.onceHolds(kLockedAlbums, {"Pets", "Places"});
+    return onlyShopShows(phone, "Places: 1 photo") + ". In Photos it is locked";
+  });
+}
+
+void hideInFolder(Story& story, Phone& phone) {
+  story.step("You switch \"North\" off.", [&] {
+    phone.changeSettings({{"albumNameNorth", false}});
+    const User& gallery = refreshed(phone, kGallery);
+    gallery.waitUntilGone("North: 2 photos");
+    expect(gallery.sees("fetched North: nothing"), "its photos are refused");
+    return std::string("the other app shows it no more; the folder stays");
+  });
+  story.step("You open the folder in Photos.", [&] {
+    const User& photos = phone.in(kPhotos);
+    photos.tap("Trips");
+    photos.waitUntilGone("See All");
+    expect(!photos.sees("North"), "the album is not there");
+    return std::string("it is empty: \"North\" is left out there, too");
+  });
+}
+
+}  // namespace
+
+void tellLibraryFilter(Story& story, Phone& phone) {
+  openAll(story, phone);
+  lockOne(story, phone);
+  hideSmartAlbums(story, phone);
+  hideInFolder(story, phone);
+  phone.changeSettings({});
+  phone.compare({});
+}
+
+}  // namespace device
