@@ -71,7 +71,7 @@ void captureFinished(CAMCaptureEngine engine, Replaced<void(Object, Object, Obje
                      Object resolvedSettings, Object error) {
   host(output, resolvedSettings, error);
   if (NSThread::isMainThread()) return scheduleMove(engine);
-  // A queue of the host's has no run loop that would fire a timer, and the settings are the main thread's.
+  // A queue of the host's has no run loop that would fire a timer.
   runOnMainQueue([engine = Ref(engine)] { scheduleMove(engine.get()); });
 }
 

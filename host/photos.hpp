@@ -101,8 +101,8 @@ class PHAssetCollection : public HostClass<"PHAssetCollection", PHCollection> {
     return understands<"assetCollectionSubtype">() ? send<"assetCollectionSubtype", Subtype()>()
                                                    : Subtype::none;
   }
-  /// Whether it says that it has a subtype. One that does not may still have one, of the object that it
-  /// stands for.
+  /// Whether it owns up to having a subtype. One that does not may still hand the question on to another
+  /// object.
   bool tellsSubtype() const { return responds<"assetCollectionSubtype">(); }
 
   static PHFetchResult<PHAssetCollection> fetch(Type type, Subtype subtype, PHFetchOptions options) {
@@ -164,7 +164,7 @@ class PHAssetCollectionChangeRequest : public HostClass<"PHAssetCollectionChange
     return sendToClass<"creationRequestForAssetCollectionWithTitle:",
                        PHAssetCollectionChangeRequest(NSString)>(hostClass(), title);
   }
-  /// May be nil. `assets` are those that the collection holds.
+  /// May be nil. `assets` are those that the collection holds; none are needed where some are only added.
   static PHAssetCollectionChangeRequest change(PHAssetCollection collection, PHFetchResult<PHAsset> assets) {
     return sendToClass<"changeRequestForAssetCollection:assets:",
                        PHAssetCollectionChangeRequest(PHAssetCollection, PHFetchResult<PHAsset>)>(

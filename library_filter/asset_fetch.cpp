@@ -66,8 +66,8 @@ NSUInteger estimatedAssetCount(PHAssetCollection album, Replaced<NSUInteger()> h
 
 NSArray fetchedObjects(PHFetchResult<Object>, Replaced<NSArray()> host) { return host(); }
 
-PHFetchResult<PHAsset> fetchFromHost(PHAssetCollection collection) {
-  return fetch(AssetFetch::withHidden, hostsFetch(), collection, PHFetchOptions());
+PHFetchResult<PHAsset> fetchFromHost(PHAssetCollection album) {
+  return fetch(AssetFetch::withHidden, hostsFetch(), album, PHFetchOptions());
 }
 
 }  // namespace velvault12

@@ -9,8 +9,9 @@ namespace velvault12 {
 // Hooks. The host may call them on any thread. Options that the caller passes are its own: the host fetches
 // with a copy of them.
 
-/// Nil for the assets of a hidden album. Where there are any, hidden assets are among them, but for the
-/// albums of the whole library.
+// Nil for the assets of an album that is hidden from the app; nothing is hidden from Photos. Else hidden
+// assets are among them, but for the camera roll, and of all that it holds but for the album of all photos.
+
 PHFetchResult<PHAsset> fetchAssets(Object assetClass,
                                    Replaced<PHFetchResult<PHAsset>(PHAssetCollection, PHFetchOptions)> host,
                                    PHAssetCollection collection, PHFetchOptions options);
@@ -24,7 +25,7 @@ PHFetchResult<PHAssetCollection> fetchAssetCollections(
         host,
     PHAssetCollection::Type type, PHAssetCollection::Subtype subtype, PHFetchOptions options);
 
-/// 0 for a locked album; what one holds that the host thinks empty for all its photos being hidden.
+/// Outside Photos 0 for a locked album, and for one that the host takes for empty what can be fetched of it.
 NSUInteger estimatedAssetCount(PHAssetCollection album, Replaced<NSUInteger()> host);
 
 /// The host's answer.
@@ -32,7 +33,7 @@ NSArray fetchedObjects(PHFetchResult<Object> result, Replaced<NSArray()> host);
 
 // For other hooks.
 
-/// What an app that fetches all assets of the collection gets from the host when it is not refused.
-PHFetchResult<PHAsset> fetchFromHost(PHAssetCollection collection);
+/// All assets of the album, hidden ones as well, of the host that refuses none.
+PHFetchResult<PHAsset> fetchFromHost(PHAssetCollection album);
 
 }  // namespace velvault12

@@ -19,7 +19,7 @@ struct CollectionTraits {
 
   Type type = Type::none;
   std::int64_t subtype = 0;
-  /// Whether it says itself that it has a subtype. A folder has none; others may stand for one that has.
+  /// Whether it owns up to having a subtype: a folder has none, a proxy may hand the question on.
   bool tellsSubtype = false;
   bool isTrashBin = false;
   std::optional<std::string> title;
@@ -48,7 +48,7 @@ template <class Titles>
 bool isListedInOtherApps(const CollectionTraits& collection, const Settings& settings, Titles& lockedTitles) {
   using enum CollectionTraits::Type;
   if (collection.isTrashBin && !settings.showDeleted) return false;
-  // An import history that is one by itself stays.
+  // Other apps have the import history in plain; only what hands on to it is theirs to lose.
   if (!collection.tellsSubtype) return settings.showImports || !collection.isImportHistory();
   if (collection.type == smartAlbum)
     return isSmartAlbumShown(kSmartAlbumsInOtherApps, collection.subtype, settings, lockedTitles);

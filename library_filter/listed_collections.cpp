@@ -9,9 +9,9 @@ namespace velvault12 {
 
 namespace {
 
-/// Adds the regular albums of the library that are not among the listed ones.
-void addAlbumsFromFolders(NSMutableArray shown, NSArray listed, const Settings& settings,
-                          LockedAlbums& locked) {
+/// Adds the regular albums of the library that are not among the listed ones: those in folders, for an app
+/// that opens none.
+void addOtherAlbums(NSMutableArray shown, NSArray listed, const Settings& settings, LockedAlbums& locked) {
   const Ref<NSSet> known = NSSet::of(listed);
   const auto albums =
       PHAssetCollection::fetch(PHAssetCollection::Type::album, PHAssetCollection::Subtype::albumRegular, {});
@@ -35,18 +35,18 @@ bool beginsAtEnd() {
 }  // namespace
 
 NSArray listedCollections(PHCollectionList, Replaced<NSArray()> host) {
-  const NSArray listed = host();
+  const Ref<NSArray> listed(host());
   const auto chosen = settings();
-  if (!listed || !chosen->enabled || isPhotosApp()) return listed;
+  if (!listed || !chosen->enabled || isPhotosApp()) return listed.get();
   LockedAlbums locked;
   auto shown = makeObject<NSMutableArray>();
   bool hasAlbums = false;
-  for (const Object each : listed) {
+  for (const Object each : listed.get()) {
     const CollectionTraits traits = traitsOf(PHAssetCollection(each.get()));
     if (isListedInOtherApps(traits, *chosen, locked)) shown->addObject(each);
     hasAlbums = hasAlbums || traits.isRegularAlbum();
   }
-  if (hasAlbums) addAlbumsFromFolders(shown.get(), listed, *chosen, locked);
+  if (hasAlbums) addOtherAlbums(shown.get(), listed.get(), *chosen, locked);
   return std::move(shown).autorelease();
 }
 

@@ -13,13 +13,13 @@ struct SmartAlbumRow {
   std::int64_t subtype;
   /// The switch that shows it.
   bool Settings::*shows;
-  /// Names that hide it as well by standing among the titles of locked albums, in whatever language the phone
-  /// speaks; empty for none.
+  /// Names that hide it as well by standing among the titles of locked albums, English in whatever language
+  /// the phone speaks; empty for none.
   std::string_view lockedNames[2] = {};
 };
 
-// The two differ on purpose: what Photos calls live photos, animated and long exposures, it keeps apart by
-// subtypes 213 to 215; for other apps the switch of the animated ones has always been that of 215.
+// The two differ on purpose, in 214 and 215: in Photos these are the animated photos and the long exposures,
+// each with a switch; in other apps the switch of the animated ones goes for 215, and 214 is always shown.
 
 inline constexpr SmartAlbumRow kSmartAlbumsInPhotos[] = {
     {200, &Settings::showPeople},        {201, &Settings::showPanoramas},

@@ -28,13 +28,13 @@ PHAssetCollection cameraRoll() {
 }  // namespace
 
 NSArray collectionsInPhotos(PHCollectionList list, Replaced<NSArray()> host) {
-  const NSArray listed = host();
+  const Ref<NSArray> listed(host());
   const auto chosen = settings();
-  if (!listed || !chosen->enabled) return listed;
+  if (!listed || !chosen->enabled) return listed.get();
   auto shown = makeObject<NSMutableArray>();
   if (isUsersOwn(list) && !controllerRegistry().albumIsCameraRoll) shown->addObject(cameraRoll());
   bool hasSmartAlbums = false;
-  for (const Object each : listed) {
+  for (const Object each : listed.get()) {
     const CollectionTraits traits = traitsOf(PHAssetCollection(each.get()));
     if (isListedInPhotos(traits, *chosen)) shown->addObject(each);
     hasSmartAlbums = hasSmartAlbums || traits.type == CollectionTraits::Type::smartAlbum;

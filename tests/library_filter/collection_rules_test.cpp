@@ -71,6 +71,7 @@ TEST(Collections, AreListedInPhotosAndInOtherAppsEachByTheirOwnRule) {
       {of(album, 5, "Off"), {}, false, true, 0},
       {untold(album, 2), {}, true, true, 0},
       {of(smartAlbum, 202), {}, true, false, 1},
+      {of(smartAlbum, 202), {kLockedToo}, true, false, 1},
       {of(smartAlbum, 202), {&Settings::showVideos}, false, false, 0},
       {untold(smartAlbum, 202), {&Settings::showVideos}, true, true, 0},
       {of(smartAlbum, 205), {}, false, false, 0},

@@ -56,17 +56,24 @@ TEST_F(CollectionFilter, ListsGoByTheSwitchesOfPhotosAloneAndLockedAlbumsStay) {
   EXPECT_EQ(listed(), titlesOf(kinds()));
 }
 
+TEST_F(CollectionFilter, AListOfSmartAlbumsReadsTheLockedOnesAfresh) {
+  open(From::strip);
+  writeStrings(kLockedAlbums, {"Holidays"});
+  membersOf(listOf(NSArray::of(smartAlbum(202))));
+  EXPECT_EQ(tapped("Holidays"), "");
+}
+
 TEST_F(CollectionFilter, WhatOtherAppsAreRefusedIsPhotosOwn) {
   auto library = phone_.photoLibrary();
-  const auto moved = library.addAlbum("Moved");
-  library.addToAlbum(library.addAsset({.isHidden = true}), moved);
+  for (const std::string_view title : {"Moved", "Free"})
+    library.addToAlbum(library.addAsset({.isHidden = true}), library.addAlbum(title));
   open(From::strip, {"Moved"}, {{"albumNamePets", false}});
   EXPECT_EQ(PHAsset::fetchInAssetCollection(albumNamed("Moved"), {}).count(), 1u)
       << "and hidden photos are shown";
   EXPECT_EQ(keyAssetsOf(albumNamed("Moved")).count(), 1u);
-  EXPECT_EQ(estimateOf(albumNamed("Moved")), 0u) << "as the host counts";
+  EXPECT_EQ(estimateOf(albumNamed("Free")), 0u) << "as the host counts";
   EXPECT_EQ(PHAsset::fetchInAssetCollection(albumNamed("Pets"), {}).count(), 1u);
-  EXPECT_EQ(PHAsset::fetchInAssetCollection(smartAlbum(205), {}).count(), 1u);
+  EXPECT_EQ(PHAsset::fetchInAssetCollection(smartAlbum(205), {}).count(), 2u);
   EXPECT_EQ(PHAsset::fetchInAssetCollection(smartAlbum(209), {}).count(), 3u);
 }
 
