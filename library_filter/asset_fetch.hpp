@@ -9,8 +9,9 @@ namespace velvault12 {
 // Hooks. The host may call them on any thread. Options that the caller passes are its own: the host fetches
 // with a copy of them.
 
-// Nil for the assets of an album that is hidden from the app; nothing is hidden from Photos. Else hidden
-// assets are among them, but for the camera roll, and of all that it holds but for the album of all photos.
+// All that a collection holds, or the few that stand for it: nil where that is hidden from the app, from
+// Photos never. Assets that their owner has hidden are among them, except in the camera roll and, as long as
+// it is not for the few, in the album of all photos.
 
 PHFetchResult<PHAsset> fetchAssets(Object assetClass,
                                    Replaced<PHFetchResult<PHAsset>(PHAssetCollection, PHFetchOptions)> host,

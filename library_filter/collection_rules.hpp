@@ -48,7 +48,7 @@ template <class Titles>
 bool isListedInOtherApps(const CollectionTraits& collection, const Settings& settings, Titles& lockedTitles) {
   using enum CollectionTraits::Type;
   if (collection.isTrashBin && !settings.showDeleted) return false;
-  // Other apps have the import history in plain; only what hands on to it is theirs to lose.
+  // The import history itself stays; a proxy of it goes by the switch.
   if (!collection.tellsSubtype) return settings.showImports || !collection.isImportHistory();
   if (collection.type == smartAlbum)
     return isSmartAlbumShown(kSmartAlbumsInOtherApps, collection.subtype, settings, lockedTitles);
@@ -68,6 +68,11 @@ bool isTakenOutOfFolder(const std::optional<std::string>& title, const Settings&
   return !settings.hideLockedFromApps || !lockedTitles.contains(*title);
 }
 
+// Subtypes of smart albums.
+inline constexpr std::int64_t kHiddenAlbum = 205;
+inline constexpr std::int64_t kUserLibrary = 209;
+inline constexpr std::int64_t kAllPhotos = 1000000205;
+
 /// What a fetch of a collection's assets comes to.
 enum class AssetFetch { refused, withoutHidden, withHidden };
 
@@ -75,9 +80,6 @@ enum class AssetFetch { refused, withoutHidden, withHidden };
 template <class Titles>
 AssetFetch assetFetch(const CollectionTraits& collection, bool inPhotos, const Settings& settings,
                       Titles& lockedTitles) {
-  constexpr std::int64_t kHiddenAlbum = 205;
-  constexpr std::int64_t kUserLibrary = 209;
-  constexpr std::int64_t kAllPhotos = 1000000205;
   const bool isSmartAlbum = collection.type == CollectionTraits::Type::smartAlbum;
   if (!inPhotos) {
     if (isSmartAlbum && collection.subtype == kHiddenAlbum) return AssetFetch::refused;
@@ -91,7 +93,6 @@ AssetFetch assetFetch(const CollectionTraits& collection, bool inPhotos, const S
 /// Of the few that stand for it.
 template <class Titles>
 AssetFetch keyAssetFetch(const CollectionTraits& collection, bool inPhotos, Titles& lockedTitles) {
-  constexpr std::int64_t kUserLibrary = 209;
   if (!inPhotos && collection.title && lockedTitles.contains(*collection.title)) return AssetFetch::refused;
   const bool isUserLibrary = collection.tellsSubtype && collection.subtype == kUserLibrary;
   return isUserLibrary ? AssetFetch::withoutHidden : AssetFetch::withHidden;
