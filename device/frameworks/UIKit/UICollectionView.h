@@ -97,6 +97,7 @@ enum UICollectionViewScrollDirection : NSInteger {
 - (void)reloadData;
 - (NSInteger)numberOfSections;
 - (NSInteger)numberOfItemsInSection:(NSInteger)section;
+/// In the order of their items.
 @property(nonatomic, readonly) NSArray* visibleCells;
 @property(nonatomic, readonly) NSArray* indexPathsForVisibleItems;
 /// Nil when the item is not in sight.

@@ -172,8 +172,7 @@
 }
 
 - (void)reloadData {
-  NSArray* paths = [[_visibleCells allKeys] sortedArrayUsingSelector:@selector(compare:)];
-  for (NSIndexPath* path in paths) [self _recycleCellAtIndexPath:path];
+  for (NSIndexPath* path in [self indexPathsForVisibleItems]) [self _recycleCellAtIndexPath:path];
   _itemCount = -1;
   [self setNeedsLayout];
 }
@@ -253,11 +252,11 @@
 }
 
 - (NSArray*)visibleCells {
-  return [_visibleCells allValues];
+  return [_visibleCells objectsForKeys:[self indexPathsForVisibleItems] notFoundMarker:[NSNull null]];
 }
 
 - (NSArray*)indexPathsForVisibleItems {
-  return [_visibleCells allKeys];
+  return [[_visibleCells allKeys] sortedArrayUsingSelector:@selector(compare:)];
 }
 
 - (UICollectionViewCell*)cellForItemAtIndexPath:(NSIndexPath*)path {
