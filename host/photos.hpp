@@ -20,7 +20,7 @@ class PHFetchOptions : public HostClass<"PHFetchOptions"> {
   }
   void setIncludeHiddenAssets(bool include) const { send<"setIncludeHiddenAssets:", void(bool)>(include); }
   static Ref<PHFetchOptions> includingHidden() {
-    const auto options = makeObject<PHFetchOptions>();
+    auto options = makeObject<PHFetchOptions>();
     options->setIncludeHiddenAssets(true);
     return options;
   }

@@ -144,6 +144,14 @@ class PhoneTest : public ::testing::Test {
     return std::distance(std::filesystem::directory_iterator(folder), {});
   }
 
+  /// All that an alert says, from its title to its buttons.
+  static Titles textsOf(const device::AlertText& alert) {
+    Titles texts{alert.title, alert.message};
+    for (const auto& more : {alert.fields, alert.buttons})
+      texts.insert(texts.end(), more.begin(), more.end());
+    return texts;
+  }
+  static NSUInteger references(Object object) { return object.send<"retainCount", NSUInteger()>(); }
   /// Runs this process's app until the condition holds.
   static bool soon(const std::function<bool()>& condition) {
     return device::runUntil(condition, device::kPatience);
@@ -160,10 +168,9 @@ class PhoneTest : public ::testing::Test {
   static void settleLibrary() {
     for (int round = 0; round < 2; ++round) {
       bool isOver = false;
+      const auto end = [&isOver](bool, Object) { runOnMainQueue([&isOver] { isOver = true; }); };
       PHPhotoLibrary::sharedPhotoLibrary().performChanges(block<void()>([] {}),
-                                                          block<void(bool, Object)>([&isOver](bool, Object) {
-                                                            runOnMainQueue([&isOver] { isOver = true; });
-                                                          }));
+                                                          block<void(bool, Object)>(end));
       ASSERT_TRUE(soon([&isOver] { return isOver; }));
     }
   }
@@ -177,6 +184,9 @@ class PhoneTest : public ::testing::Test {
 
  protected:
   device::Device phone_{folder_.path() / "phone"};
+  /// Who uses the app that this process is.
+  const device::User me_ = device::User::here();
+  AutoreleasePool pool_;
 };
 
 }  // namespace velvault12

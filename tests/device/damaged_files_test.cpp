@@ -68,9 +68,6 @@ class DamagedFiles : public PhoneTest {
     if (contents) return write(phonePath, *contents);
     std::filesystem::create_directories(phone_.onDisk(phonePath));
   }
-
-  device::User me_ = device::User::here();
-  AutoreleasePool pool_;
 };
 
 /// As how many kinds of property list a reader takes the file, having gone through all of it.

@@ -8,7 +8,6 @@
 #include "startup/service_messages.hpp"
 #include "tests/device/forked_process.hpp"
 #include "tests/device/frameworks/plain_phone.hpp"
-#include "tests/phone_test.hpp"
 
 namespace velvault12 {
 namespace {

@@ -44,10 +44,23 @@ class PhotosApp : public PhoneTest {
     settle();
   }
 
+  void tap(std::initializer_list<std::string_view> texts) const {
+    for (const std::string_view text : texts) me_.tap(text);
+  }
   const device::User& owner() const { return springBoard_->user(); }
-  void ownerIs(OwnerAnswer answer) {
+  void ownerIs(OwnerAnswer answer) const {
     owner().waitForOwnerRequest();
     owner().answerOwnerRequest(answer);
+    settle();
+  }
+  /// Does what its owner must be asked for.
+  void tapUntilAsked(std::initializer_list<std::string_view> texts) const {
+    tap(texts);
+    owner().waitForOwnerRequest();
+  }
+  void tapAs(OwnerAnswer answer, std::initializer_list<std::string_view> texts) const {
+    tap(texts);
+    ownerIs(answer);
   }
 
   static UINavigationController navigation() {
@@ -68,6 +81,8 @@ class PhotosApp : public PhoneTest {
   /// Where one of the user's albums is, in the strip and in the list: behind the camera roll.
   static NSIndexPath placeOf(NSInteger album) { return pathTo(album + 1); }
   static PUAlbumListCellContentView tile(NSInteger album) {
+    // A list that was made anew has no tiles before its next layout.
+    albumList().collectionView().send<"layoutIfNeeded", void()>();
     return albumList().tileAtIndexPath(placeOf(album));
   }
   /// Uses the tile for another album.
@@ -110,8 +125,6 @@ class PhotosApp : public PhoneTest {
   }
 
   std::optional<device::App> springBoard_;
-  device::User me_ = device::User::here();
-  AutoreleasePool pool_;
 };
 
 }  // namespace velvault12

@@ -12,17 +12,18 @@
 namespace velvault12 {
 namespace {
 
-// What each host gets: classes, behind each its methods that are replaced, in their order, and new ones (+). A
-// class's own methods begin with a dot.
-constexpr const char* kCameraMethods = R"(
+// What each [host] gets, and [] all of them: classes, behind each its methods that are replaced, in their
+// order, and new ones (+). A class's own methods begin with a dot.
+constexpr const char* kMethods = R"(
+[com.apple.camera]
     CAMCaptureEngine captureOutput:didFinishCaptureForResolvedSettings:error: +movePhoto
     CAMMetalView layoutSubviews +chooseAlbum +createNewAlbum +adjustRotationToSize:
     CAMBottomBar layoutSubviews +chooseAlbum +createNewAlbum +adjustRotationToSize:
-    CAMImageWell thumbnailImage)";
-constexpr const char* kSpringBoardMethods = R"(
+    CAMImageWell thumbnailImage
+[com.apple.springboard]
     SpringBoard applicationDidFinishLaunching:
-        +handleMessageNamed:withUserInfo: +authenticate:withUserInfo:)";
-constexpr const char* kPhotosMethods = R"(
+        +handleMessageNamed:withUserInfo: +authenticate:withUserInfo:
+[com.apple.mobileslideshow]
     PhotosApplication applicationDidEnterBackground: +returnToMainView
     PUHorizontalAlbumListGadget viewWillAppear:
         collectionView:cellForItemAtIndexPath: collectionView:didSelectItemAtIndexPath:
@@ -44,17 +45,13 @@ constexpr const char* kPhotosMethods = R"(
     PXPhotosContentController contentViewWillAppear:
     PXCuratedLibraryUIViewController viewWillAppear:
     PXGadgetDataSource gadgets
-    PXPhotoKitCollectionsDataSourceManager _containsAnyAssets: canReorderCollection:)";
-constexpr const char* kMethodsOfAll = R"(
+    PXPhotoKitCollectionsDataSourceManager _containsAnyAssets: canReorderCollection:
+[]
     PHCollectionList collections
     PHFetchResult fetchedObjects
     PHAsset .fetchAssetsInAssetCollection:options: .fetchKeyAssetsInAssetCollection:options:
     PHAssetCollection .fetchAssetCollectionsWithType:subtype:options:
         estimatedAssetCount startsAtEnd keyAssetsAtEnd)";
-constexpr std::pair<std::string_view, const char*> kMethods[] = {{device::kCamera, kCameraMethods},
-                                                                 {device::kSpringBoard, kSpringBoardMethods},
-                                                                 {device::kPhotos, kPhotosMethods},
-                                                                 {"", kMethodsOfAll}};
 
 using Host = std::tuple<std::string_view, bool>;
 class Constructor : public PhoneTest, public ::testing::WithParamInterface<Host> {};
@@ -72,21 +69,21 @@ TEST_P(Constructor, DoesWhatTheHostIsToGetAndNothingElse) {
   std::vector<std::string> replaced, expected;
   for (const auto& hook : device::installedHooks())
     replaced.push_back(hook.className + (hook.isClassMethod ? " ." : " ") + hook.selector);
-  for (const auto& [owner, methods] : kMethods) {
-    const bool isOfAll = owner.empty() && host != device::kShopDemo;
-    const bool isMade = enabled && (isOfAll || owner == host);
-    std::istringstream words(methods);
-    std::string className;
-    for (std::string word; words >> word;) {
-      if (std::isupper(word.front())) {
-        className = word;
-      } else if (word.front() == '+') {
-        const Class type = objc_getClass(className.c_str());
-        const SEL added = sel_registerName(word.c_str() + 1);
-        EXPECT_EQ(class_getInstanceMethod(type, added) != nullptr, isMade) << className << word;
-      } else if (isMade) {
-        expected.push_back(className + " " + word);
-      }
+  std::istringstream words(kMethods);
+  std::string owner, className;
+  for (std::string word; words >> word;) {
+    const bool isOfAll = owner == "[]" && host != device::kShopDemo;
+    const bool isMade = enabled && (isOfAll || owner == "[" + std::string(host) + "]");
+    if (word.front() == '[') {
+      owner = word;
+    } else if (std::isupper(word.front())) {
+      className = word;
+    } else if (word.front() == '+') {
+      const Class type = objc_getClass(className.c_str());
+      const SEL added = sel_registerName(word.c_str() + 1);
+      EXPECT_EQ(class_getInstanceMethod(type, added) != nullptr, isMade) << className << word;
+    } else if (isMade) {
+      expected.push_back(className + " " + word);
     }
   }
   EXPECT_EQ(replaced, expected);

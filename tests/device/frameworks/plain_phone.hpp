@@ -51,9 +51,6 @@ class PlainPhone : public PhoneTest {
     }
     return "";
   }
-  static NSUInteger references(Object object) { return object.send<"retainCount", NSUInteger()>(); }
-
-  AutoreleasePool pool_;
 };
 
 /// This process is an app whose screen is empty.

@@ -19,7 +19,7 @@ class User : public PlainPhone, public ::testing::WithParamInterface<Through> {
   const device::User& open(std::string_view app) {
     if (GetParam() == Through::here) {
       phone_.launchHere(app);
-      return here_;
+      return me_;
     }
     app_.emplace(phone_.launch(app));
     return app_->user();
@@ -29,7 +29,6 @@ class User : public PlainPhone, public ::testing::WithParamInterface<Through> {
 
  private:
   std::optional<device::App> app_;
-  const device::User here_ = device::User::here();
 };
 INSTANTIATE_TEST_SUITE_P(Apps, User, ::testing::Values(Through::here, Through::socket),
                          ::testing::PrintToStringParamName());

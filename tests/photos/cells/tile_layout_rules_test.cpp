@@ -32,13 +32,5 @@ TEST(Padlock, LiesInTheMiddleInWholePoints) {
   EXPECT_EQ(words(padlockFrame(0)), words({-25, -25, 50, 50}));
 }
 
-TEST(TileFont, IsTheHostsOwnAtFifteenAndNoneForAHiddenText) {
-  EXPECT_EQ(tileFontSize(true, 14), 14);
-  EXPECT_EQ(tileFontSize(true, 15), std::nullopt);
-  EXPECT_EQ(tileFontSize(true, 0), 0);
-  EXPECT_EQ(tileFontSize(false, 15), 0);
-  EXPECT_EQ(tileFontSize(false, 20), 0);
-}
-
 }  // namespace
 }  // namespace velvault12

@@ -1,17 +1,19 @@
 // Locked albums in the Photos app's strip and list.
 
 #include "host/app_support.hpp"
-#include "host/class_pair.hpp"
 #include "host/hook.hpp"
 #include "tests/photos/photos_app.hpp"
 
 namespace velvault12 {
 namespace {
 
-/// The latest message to a centre that the test serves: its name and what came with it.
-std::string received;
-void receive(Object, NSString name, NSDictionary userInfo) {
-  received = name.utf8() + " " + userInfo.send<"description", NSString()>().utf8();
+/// The latest message to another process: its name and what went with it.
+std::string sent;
+bool send(CPDistributedMessagingCenter center, Replaced<bool(NSString, NSDictionary)> host, NSString name,
+          NSDictionary userInfo) {
+  EXPECT_EQ(center, CPDistributedMessagingCenter::centerNamed("com.qdx.velvault12"));
+  sent = name.utf8() + " " + userInfo.send<"description", NSString()>().utf8();
+  return host(name, userInfo);
 }
 
 class EitherWay : public PhotosApp, public ::testing::WithParamInterface<From> {};
@@ -45,9 +47,7 @@ TEST_P(EitherWay, ALockedAlbumOpensForItsOwnerAloneAndOncePerAuthentication) {
   open(GetParam(), {"Holidays"});
   device::NotificationCounter answered(phone_, kAnswered);
   for (const OwnerAnswer answer : {OwnerAnswer::cancel, OwnerAnswer::failure}) {
-    me_.tap("Holidays");
-    ownerIs(answer);
-    settle();
+    tapAs(answer, {"Holidays"});
     EXPECT_EQ(openAlbum(), "");
     EXPECT_FALSE(me_.hasAlert());
     EXPECT_FALSE(hasFile(kAnswer));
@@ -67,15 +67,13 @@ TEST_P(EitherWay, ThePasswordOpensWhenItIsRightToTheLetter) {
   open(GetParam(), {"Holidays"}, kWithPassword);
   me_.tap("Holidays");
   me_.waitToSee("Unlock album");
-  const device::AlertText alert = me_.alert();
-  EXPECT_EQ(alert.message, "Enter password to unlock album.");
-  EXPECT_EQ(alert.fields, Titles{"Password (secure)"});
-  EXPECT_EQ(alert.buttons, (Titles{"OK", "Cancel"}));
+  EXPECT_EQ(textsOf(me_.alert()),
+            (Titles{"Unlock album", "Enter password to unlock album.", "Password (secure)", "OK", "Cancel"}));
   me_.tap("Cancel");
   settle();
   EXPECT_EQ(openAlbum(), "");
 
-  for (const std::string_view wrong : {"", "open sesame ", "Open sesame"}) {
+  for (const std::string_view wrong : {"", "open sesame ", " open sesame", "Open sesame"}) {
     tapAndEnter("Holidays", wrong);
     me_.waitToSee("Incorrect password");
     EXPECT_FALSE(me_.hasAlert());
@@ -103,9 +101,7 @@ TEST_F(PhotosApp, WithoutAPasswordAnyEntryUnlocksAndAnEmptyOneMatchesNothingType
   const auto shown = std::chrono::steady_clock::now();
   me_.waitToSee("Incorrect password");
   EXPECT_FALSE(me_.sees("No password set")) << "a newer notice takes the place of the older";
-  me_.tap("Holidays");
-  me_.waitToSee("Unlock album");
-  me_.tap("OK");
+  tapAndEnter("Holidays", "");
   EXPECT_EQ(openAlbum(), "Holidays");
   me_.waitUntilGone("Incorrect password");
   EXPECT_GE(std::chrono::steady_clock::now() - shown, std::chrono::seconds(2));
@@ -122,9 +118,7 @@ TEST_F(PhotosApp, APhoneThatCannotAskItsOwnerOpensAtOnceAndSoDoesAnyOtherOption)
   // An owner who cancels leaves the former answer as it is, for whoever reads it next.
   owner().setPasscode(true);
   const auto former = phone_.dictionary(kAnswer);
-  me_.tap("Holidays");
-  ownerIs(OwnerAnswer::cancel);
-  settle();
+  tapAs(OwnerAnswer::cancel, {"Holidays"});
   EXPECT_EQ(openAlbum(), "");
   EXPECT_EQ(phone_.dictionary(kAnswer), former);
   phone_.post(kAnswered);
@@ -138,26 +132,15 @@ TEST_F(PhotosApp, APhoneThatCannotAskItsOwnerOpensAtOnceAndSoDoesAnyOtherOption)
 }
 
 TEST_F(PhotosApp, TheMessagesSayWhoAsksForWhat) {
-  // Instead of SpringBoard the test serves the centre, in the app's own process.
+  const HookRow row[] = {replace<send>("CPDistributedMessagingCenter", "sendMessageName:userInfo:")};
+  installHooks(row);
   phone_.launchHere(device::kPhotos);
-  ClassPair(classNamed<"NSObject">(), "MessageReceiver")
-      .method<receive>(selector<"received:with:">(), "v@:@@")
-      .registered();
-  const auto receiver = makeObject<HostClass<"MessageReceiver">>();
-  const auto center = CPDistributedMessagingCenter::centerNamed("com.qdx.velvault12");
-  center.runServerOnCurrentThread();
-  center.registerForMessage("savearray", receiver.get(), selector<"received:with:">());
-  center.registerForMessage("authenticate", receiver.get(), selector<"received:with:">());
-  const auto nextMessage = [] {
-    EXPECT_TRUE(soon([] { return !received.empty(); }));
-    return std::exchange(received, {});
-  };
   me_.longPress("Holidays");
-  EXPECT_EQ(nextMessage(),
+  EXPECT_EQ(sent,
             "savearray {array = (Holidays); id = \"com.apple.mobileslideshow\"; path = "
             "\"/var/mobile/Library/velvault/lockedAlbums.plist\"; }");
   me_.tap("Holidays");
-  EXPECT_EQ(nextMessage(),
+  EXPECT_EQ(sent,
             "authenticate {albumName = Holidays; controller = PUHorizontalAlbumListGadget; "
             "id = \"com.apple.mobileslideshow\"; method = 0; }");
 }
@@ -230,16 +213,12 @@ TEST_F(PhotosApp, ALockedAlbumIsDeletedOnlyByItsOwner) {
   ownerIs(OwnerAnswer::cancel);
   EXPECT_EQ(albums().size(), 3u) << "what it is called on screen is locked";
   show("Pets", tile(1));
-  me_.tap("Edit");
-  me_.tap("Delete Pets");
+  tap({"Edit", "Delete Pets"});
   settleLibrary();
   EXPECT_EQ(albums(), (Titles{"Holidays", "Recipes"}));
-  me_.tap("Delete Holidays");
-  ownerIs(OwnerAnswer::cancel);
-  settle();
+  tapAs(OwnerAnswer::cancel, {"Delete Holidays"});
   EXPECT_EQ(albums(), (Titles{"Holidays", "Recipes"}));
-  me_.tap("Delete Holidays");
-  ownerIs(OwnerAnswer::success);
+  tapAs(OwnerAnswer::success, {"Delete Holidays"});
   EXPECT_TRUE(soon([&] { return albums() == Titles{"Recipes"}; }));
   me_.tap("Done");
   EXPECT_EQ(tapped("Recipes"), "") << "the pass is used up";
@@ -251,8 +230,7 @@ TEST_F(PhotosApp, ThePasswordAlsoRemovesALockAndDeletes) {
   me_.longPress("Holidays");
   enter("right");
   EXPECT_TRUE(soonLocked({"Pets"}));
-  me_.tap("Edit");
-  me_.tap("Delete Pets");
+  tap({"Edit", "Delete Pets"});
   enter("right");
   settleLibrary();
   EXPECT_EQ(albums(), (Titles{"Holidays", "Recipes"}));
@@ -262,25 +240,16 @@ TEST_F(PhotosApp, WhatWaitsIsLetGoWhenItsAlbumIsNoLongerInItsPlace) {
   open(From::list, {"Holidays", "Recipes"});
   auto library = phone_.photoLibrary();
   const Ref<PUAlbumListViewController> list(albumList());
-  const auto answered = [&] {
-    ownerIs(OwnerAnswer::success);
-    settle();
-    settle();
+  enum By { kOwner, kNotification };
+  const auto answered = [&](By by = kOwner) {
+    by == kOwner ? ownerIs(OwnerAnswer::success) : phone_.post(kAnswered);
+    for (int way = 0; way < 2; ++way) settle();
   };
-  const auto reload = [&] {
+  // Shown anew twice, the list's tiles are in their former places.
+  const auto shownAnewAndAnswered = [&](By by = kOwner) {
     list->send<"reloadContentView", void()>();
     turn();
-  };
-  const auto shownAnew = [&] {
-    reload();
-    answered();
-  };
-  // Reloaded twice, the list's tiles are in their former places.
-  const auto answeredAgain = [&] {
-    reload();
-    phone_.post(kAnswered);
-    settle();
-    settle();
+    answered(by);
   };
   const auto pressed = tile(0);
   const Ref<UIGestureRecognizer> press(pressOn(pressed));
@@ -293,9 +262,7 @@ TEST_F(PhotosApp, WhatWaitsIsLetGoWhenItsAlbumIsNoLongerInItsPlace) {
   show("Recipes", pressed);
   answered();
   show("Holidays", pressed);
-  phone_.post(kAnswered);
-  settle();
-  settle();
+  answered(kNotification);
   EXPECT_EQ(phone_.strings(kLockedAlbums), (Titles{"Holidays", "Recipes"})) << "it waits no longer";
   EXPECT_EQ(tapped("Recipes"), "Recipes") << "an answer that nobody awaits left a pass";
   me_.back();
@@ -305,35 +272,28 @@ TEST_F(PhotosApp, WhatWaitsIsLetGoWhenItsAlbumIsNoLongerInItsPlace) {
   EXPECT_EQ(phone_.strings(kLockedAlbums), Titles{"Recipes"}) << "an answer locks nothing";
   writeStrings(kLockedAlbums, {"Holidays", "Recipes"});
   pressed.send<"layoutSubviews", void()>();
-  me_.tap("Edit");
-  me_.tap("Delete Holidays");
-  owner().waitForOwnerRequest();
-  shownAnew();
-  answeredAgain();
+  tapUntilAsked({"Edit", "Delete Holidays"});
+  shownAnewAndAnswered();
+  shownAnewAndAnswered(kNotification);
   settleLibrary();
   EXPECT_EQ(albums(), (Titles{"Holidays", "Pets", "Recipes"}));
-  me_.tap("Done");
-  me_.tap("Holidays");
-  owner().waitForOwnerRequest();
+  tapUntilAsked({"Done", "Holidays"});
   const auto holidays = library.collections()[0].identifier;
   library.renameCollection(holidays, "Summer");
-  shownAnew();
+  shownAnewAndAnswered();
   EXPECT_EQ(openAlbum(), "") << "not Summer";
   library.renameCollection(holidays, "Holidays");
-  answeredAgain();
+  shownAnewAndAnswered(kNotification);
   EXPECT_EQ(openAlbum(), "");
-  me_.tap("Recipes");
-  owner().waitForOwnerRequest();
+  tapUntilAsked({"Recipes"});
   library.removeCollection(holidays);
-  shownAnew();
+  shownAnewAndAnswered();
   EXPECT_EQ(openAlbum(), "") << "not what is past the end";
   EXPECT_EQ(tapped("Recipes"), "") << "and no pass is left";
   ownerIs(OwnerAnswer::cancel);
-  me_.tap("Edit");
-  me_.tap("Delete Recipes");
-  owner().waitForOwnerRequest();
+  tapUntilAsked({"Edit", "Delete Recipes"});
   library.removeCollection(library.collections()[1].identifier);
-  shownAnew();
+  shownAnewAndAnswered();
   EXPECT_TRUE(me_.sees("Done")) << "a tile that shows nothing any more deletes nothing";
 }
 
@@ -410,8 +370,9 @@ TEST_F(PhotosApp, ATileIsDrawnAgainShortlyAfterItsLockHasChanged) {
   const HookRow row[] = {replace<countLayout>("PUAlbumListCellContentView", "layoutSubviews")};
   installHooks(row);
   for (int press = 0; press < 2; ++press) {
+    const UIGestureRecognizer recognizer = pressOn(tile(0));
     const int before = layoutPasses;
-    longPress(pressOn(tile(0)));
+    longPress(recognizer);
     EXPECT_EQ(layoutPasses, before);
     EXPECT_TRUE(soon([&] { return layoutPasses > before; })) << press;
   }
@@ -446,8 +407,7 @@ TEST_F(PhotosApp, AnAnswerIsForTheKindOfControllerThatItNames) {
   // Without an answer file it is the strip that appeared.
   phone_.post(kAnswered);
   me_.waitToSee("Unlock album");
-  me_.tap("Cancel");
-  me_.tap("See All");
+  tap({"Cancel", "See All"});
   tapAndEnter("Holidays", "");
   EXPECT_EQ(phone_.dictionary(kAnswer)->at("controller"), "PUAlbumListViewController");
   EXPECT_EQ(openAlbum(), "Holidays");
@@ -479,14 +439,12 @@ TEST_F(PhotosApp, WithoutSpringBoardNothingWaitsAndNothingOpens) {
   springBoard_->kill();
   const auto start = std::chrono::steady_clock::now();
   me_.longPress("Pets");
-  me_.tap("Pets");
-  me_.tap("Holidays");
+  tap({"Pets", "Holidays"});
   EXPECT_LT(std::chrono::steady_clock::now() - start, device::kPatience);
   EXPECT_EQ(openAlbum(), "");
   EXPECT_EQ(phone_.strings(kLockedAlbums), Titles{"Holidays"});
   springBoard_.emplace(phone_.launch(device::kSpringBoard));
-  me_.tap("Holidays");
-  ownerIs(OwnerAnswer::success);
+  tapAs(OwnerAnswer::success, {"Holidays"});
   EXPECT_TRUE(soonOpen("Holidays"));
 }
 
@@ -508,7 +466,6 @@ TEST_P(EitherWay, TenThousandSelectionsLeaveNothingBehind) {
       GetParam() == From::list ? albumList().select(path) : strip().select(path);
     }
   };
-  const auto references = [](Object object) { return object.send<"retainCount", NSUInteger()>(); };
   const auto counted = [&] { return std::tuple(alive(), references(controller), references(path)); };
   GSDebugAllocationActive(1);
   select(10);

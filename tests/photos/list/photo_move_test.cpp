@@ -29,14 +29,9 @@ class PhotoMove : public PhotosApp {
     for (const int number : numbers) me_.tap(photo(number));
     me_.tap("Add To");
   }
-  void pickInHolidays(std::initializer_list<int> numbers) {
+  void pickIn(std::string_view grid, std::initializer_list<int> numbers) {
     open(From::strip);
-    me_.tap("Holidays");
-    pick(numbers);
-  }
-  void pickInCameraRoll(std::initializer_list<int> numbers) {
-    open(From::strip);
-    me_.tap("Photos");
+    me_.tap(grid);
     pick(numbers);
   }
   /// Chooses in the picker, and what its sheet offers.
@@ -53,22 +48,25 @@ class PhotoMove : public PhotosApp {
         .as<PUAlbumListViewController>();
   }
 
-  /// Which of the numbered photos an album holds, and which are hidden, such as "1 2* 3".
+  /// Which of the numbered photos there are in an album or at all, and which are hidden, such as "1 2* 3".
   std::string in(std::string_view title) const {
-    const auto library = phone_.photoLibrary();
-    const auto albums = library.allAlbums();
-    const auto album = std::ranges::find(albums, title, &device::CollectionRow::title);
-    if (album == albums.end()) return "(no album)";
-    std::string all;
-    for (const auto& asset : library.assetsInAlbum(album->identifier)) {
+    for (const auto& album : phone_.photoLibrary().allAlbums()) {
+      if (album.title == title) return numbersOf(phone_.photoLibrary().assetsInAlbum(album.identifier));
+    }
+    return "(no album)";
+  }
+  std::string all() const { return numbersOf(phone_.photoLibrary().allAssets()); }
+  std::string numbersOf(const std::vector<device::AssetRow>& assets) const {
+    std::string text;
+    for (const auto& asset : assets) {
       const auto known = std::ranges::find(photos_, asset.identifier);
       if (known == photos_.end()) continue;
-      all += (all.empty() ? "" : " ") + std::to_string(known - photos_.begin() + 1) +
-             (asset.isHidden ? "*" : "");
+      const auto number = std::to_string(known - photos_.begin() + 1);
+      text += (text.empty() ? "" : " ") + number + (asset.isHidden ? "*" : "");
     }
-    return all;
+    return text;
   }
-  /// The same once the photo library has made the changes that were asked of it.
+  /// What is in the album once the photo library has made the changes that were asked of it.
   std::string soonIn(std::string_view title) const {
     settleLibrary();
     return in(title);
@@ -91,12 +89,10 @@ class PhotoMove : public PhotosApp {
 };
 
 TEST_F(PhotoMove, MovingTakesThePhotosOutOfTheirAlbumAndTheCameraRoll) {
-  pickInHolidays({1, 3});
+  pickIn("Holidays", {1, 3});
   me_.tap("Pets");
-  const device::AlertText sheet = me_.alert();
-  EXPECT_EQ(sheet.title, "Add photos to album");
-  EXPECT_EQ(sheet.message, "Move or copy photos to the album?");
-  EXPECT_EQ(sheet.buttons, (Titles{"Move", "Copy", "Cancel"}));
+  EXPECT_EQ(textsOf(me_.alert()),
+            (Titles{"Add photos to album", "Move or copy photos to the album?", "Move", "Copy", "Cancel"}));
   me_.tap("Cancel");
   EXPECT_TRUE(me_.sees("Add 2 Photos to an album"));
   EXPECT_EQ(soonIn("Pets"), "");
@@ -109,7 +105,7 @@ TEST_F(PhotoMove, MovingTakesThePhotosOutOfTheirAlbumAndTheCameraRoll) {
 }
 
 TEST_F(PhotoMove, CopyingOnlyAddsThem) {
-  pickInHolidays({2});
+  pickIn("Holidays", {2});
   moveTo("Pets", "Copy");
   EXPECT_EQ(soonIn("Pets"), "2");
   EXPECT_EQ(in("Holidays"), "1 2 3");
@@ -120,8 +116,7 @@ TEST_F(PhotoMove, CopyingOnlyAddsThem) {
 TEST_F(PhotoMove, FromTheCameraRollTheyAreHiddenAndStayInTheirAlbums) {
   // An album that was opened before has nothing to say here.
   open(From::strip);
-  me_.tap("Holidays");
-  me_.tap("Photos");
+  tap({"Holidays", "Photos"});
   pick({1, 2});
   moveTo("Pets", "Move");
   EXPECT_EQ(soonIn("Pets"), "1* 2*");
@@ -148,7 +143,7 @@ TEST_F(PhotoMove, WhatTakesNoPhotosIsTheHostsOwnAffair) {
   library.addAlbum("Inside", library.addFolder("Folder"));
   library.addSyncedAlbum("Synced");
   library.addAlbum("Camera Roll");
-  pickInHolidays({1});
+  pickIn("Holidays", {1});
   // The phone's own camera roll, and an album of that name.
   for (const int album : {3, -1, 4, 5}) {
     picker().select(placeOf(album));
@@ -180,11 +175,9 @@ TEST_F(PhotoMove, IntoALockedAlbumOnlyItsOwnerMoves) {
   me_.tap("Holidays");
   pick({1});
   writeStrings(kLockedAlbums, {"Pets"});
-  me_.tap("Cancel");
-  me_.tap("Add To");
+  tap({"Cancel", "Add To"});
   below->send<"viewDidLayoutSubviews", void()>();
-  me_.tap("Pets");
-  owner().waitForOwnerRequest();
+  tapUntilAsked({"Pets"});
   EXPECT_FALSE(me_.hasAlert());
   ownerIs(OwnerAnswer::success);
   me_.waitToSee("Add photos to album");
@@ -193,15 +186,14 @@ TEST_F(PhotoMove, IntoALockedAlbumOnlyItsOwnerMoves) {
 }
 
 TEST_F(PhotoMove, OnAPadTheSheetsPointToWhatWasTouched) {
-  pickInHolidays({1});
+  pickIn("Holidays", {1});
   UIDevice::currentDevice().send<"_setUserInterfaceIdiom:", void(NSInteger)>(1);
   me_.tap("Pets");
   const UIView content = picker().collectionView().cellForItemAtIndexPath(placeOf(1)).contentView();
   const auto popover = presented(presented(top())).send<"popoverPresentationController", Object()>();
   EXPECT_EQ((popover.send<"sourceView", UIView()>()), content);
   EXPECT_EQ((popover.send<"sourceRect", CGRect()>().size.width), content.bounds().size.width);
-  me_.tap("Cancel");
-  me_.tap("Camera");
+  tap({"Cancel", "Camera"});
   const auto sheet = presented(presented(top()));
   EXPECT_TRUE((sheet.send<"popoverPresentationController", Object()>().send<"barButtonItem", Object()>()));
   me_.alert().tap("Cancel");
@@ -213,7 +205,7 @@ bool isPicking = true;
 UIView banner(PUAlbumListViewController, Replaced<UIView()> host) { return isPicking ? host() : UIView(); }
 
 TEST_F(PhotoMove, TheCameraButtonBringsPhotosBack) {
-  pickInHolidays({1, 2});
+  pickIn("Holidays", {1, 2});
   const HookRow row[] = {replace<banner>("PUAlbumListViewController", "_pickerBannerView")};
   installHooks(row);
   for (const bool now : {true, false, true, true}) {
@@ -222,13 +214,10 @@ TEST_F(PhotoMove, TheCameraButtonBringsPhotosBack) {
     EXPECT_EQ(picker().navigationItem().rightBarButtonItems().count(), now ? 2u : 1u);
   }
   EXPECT_TRUE(me_.sees("Camera"));
-  hide(1);
-  hide(2);
+  for (const int number : {1, 2}) hide(number);
   me_.tap("Camera");
-  const device::AlertText sheet = me_.alert();
-  EXPECT_EQ(sheet.title, "Move photos");
-  EXPECT_EQ(sheet.message, "Move photos back to camera roll?");
-  EXPECT_EQ(sheet.buttons, (Titles{"Move", "Copy", "Cancel"}));
+  EXPECT_EQ(textsOf(me_.alert()),
+            (Titles{"Move photos", "Move photos back to camera roll?", "Move", "Copy", "Cancel"}));
   me_.tap("Copy");
   EXPECT_EQ(soonIn("Holidays"), "1 2 3");
   EXPECT_FALSE(picker());
@@ -236,10 +225,9 @@ TEST_F(PhotoMove, TheCameraButtonBringsPhotosBack) {
 
   pick({3});
   hide(3);
-  me_.tap("Camera");
-  me_.tap("Move");
+  tap({"Camera", "Move"});
   EXPECT_EQ(soonIn("Holidays"), "1 2");
-  EXPECT_FALSE(phone_.photoLibrary().allAssets().back().isHidden);
+  EXPECT_EQ(all(), "1 2 3");
   me_.back();
   EXPECT_FALSE(me_.sees("Camera"));
   me_.tap("See All");
@@ -247,7 +235,7 @@ TEST_F(PhotoMove, TheCameraButtonBringsPhotosBack) {
 }
 
 TEST_F(PhotoMove, BeforeAnAlbumWasOpenedThereIsNoCameraButton) {
-  pickInCameraRoll({1});
+  pickIn("Photos", {1});
   EXPECT_TRUE(me_.sees("Add 1 Photo to an album"));
   EXPECT_FALSE(me_.sees("Camera"));
   picker().send<"handleCameraTap:", void(Object)>(Object());
@@ -304,9 +292,7 @@ TEST_F(PhotoMove, LaterSystemsAreAskedInTheirOwnWayAndTheLastOneShownCounts) {
   const auto showGrid = [] {
     makeObject<PUZoomableGridViewController>()->send<"viewWillAppear:", void(bool)>(false);
   };
-  me_.tap("Photos");
-  me_.tap("Select");
-  me_.tap(photo(3));
+  tap({"Photos", "Select", photo(3)});
   EXPECT_EQ(moved(), "1 2 3*");
   const auto content = shown<"PXPhotosUIViewController">(number(1));
   EXPECT_EQ(moved(), "1* 2 3") << "not the grid that was there before";
@@ -317,10 +303,7 @@ TEST_F(PhotoMove, LaterSystemsAreAskedInTheirOwnWayAndTheLastOneShownCounts) {
 
   // An album's own selection comes first, until a grid is shown.
   const auto latest = shown<"PXCuratedLibraryUIViewController">(number(2));
-  me_.tap("Albums");
-  me_.tap("Holidays");
-  me_.tap("Select");
-  me_.tap(photo(3));
+  tap({"Albums", "Holidays", "Select", photo(3)});
   EXPECT_EQ(moved(), "1 2");
   showGrid();
   const auto again = shown<"PXCuratedLibraryUIViewController">(number(2));
@@ -332,18 +315,9 @@ TEST_F(PhotoMove, DeletingAnAlbumShowsWhatIsInNoOther) {
   library.addToAlbum(photos_[1], library.allAlbums()[1].identifier);
   for (const int number : {1, 2, 3}) hide(number);
   open(From::list);
-  me_.tap("Edit");
-  me_.tap("Delete Holidays");
+  tap({"Edit", "Delete Holidays"});
   EXPECT_TRUE(soon([&] { return albums() == Titles{"Pets", "Recipes"}; }));
-  const auto isHidden = [&](int number) {
-    for (const auto& asset : library.allAssets()) {
-      if (asset.identifier == photos_[static_cast<std::size_t>(number) - 1]) return asset.isHidden;
-    }
-    return true;
-  };
-  EXPECT_FALSE(isHidden(1));
-  EXPECT_TRUE(isHidden(2)) << "it is in Pets as well";
-  EXPECT_FALSE(isHidden(3));
+  EXPECT_EQ(all(), "1 2* 3") << "one is in Pets as well";
   const Titles lines = logged(" performDeleteAction:<PXUIButton");
   ASSERT_EQ(lines.size(), 1u);
   EXPECT_NE(lines[0].find("-[<PUAlbumListViewController: 0x"), std::string::npos) << lines[0];
@@ -356,16 +330,12 @@ TEST_F(PhotoMove, DeletingAFolderIsDeletingItsAlbums) {
   const auto folder = library.addFolder("Old");
   for (const auto album :
        {library.addAlbum("One", folder), library.addAlbum("Two", library.addFolder("Older", folder))}) {
-    library.addToAlbum(photos_[0], album);
-    library.addToAlbum(photos_[1], album);
+    for (const auto each : {photos_[0], photos_[1]}) library.addToAlbum(each, album);
   }
   library.removeFromAlbum(photos_[0], holidays_);
-  hide(1);
-  hide(2);
+  for (const int number : {1, 2}) hide(number);
   open(From::list, {"Two"});
-  me_.tap("Edit");
-  me_.tap("Delete Old");
-  owner().waitForOwnerRequest();
+  tapUntilAsked({"Edit", "Delete Old"});
   EXPECT_EQ(owner().ownerRequest(), "Two needs to be unlocked.");
   EXPECT_EQ(albums().size(), 5u);
   ownerIs(OwnerAnswer::success);
@@ -374,28 +344,21 @@ TEST_F(PhotoMove, DeletingAFolderIsDeletingItsAlbums) {
     return albums() == Titles{"Holidays", "Pets", "Recipes"};
   }));
   EXPECT_EQ(in("Holidays"), "2* 3") << "still there for the hidden one";
-  for (const auto& asset : library.allAssets()) EXPECT_EQ(asset.isHidden, asset.identifier == photos_[1]);
+  EXPECT_EQ(all(), "1 2* 3");
 }
 
 TEST_F(PhotoMove, DeletingPhotosAsksUnlessTheSettingsSkipIt) {
   open(From::strip);
   me_.tap("Photos");
-  const auto remove = [&](int number) {
-    me_.tap("Select");
-    me_.tap(photo(number));
-    me_.tap("Delete");
-  };
-  remove(1);
-  EXPECT_TRUE(me_.hasAlert());
-  me_.tap("Cancel");
-  me_.tap("Cancel");
-  reload({{"skipDelete", true}, {"enabled", false}});
-  remove(1);
-  EXPECT_TRUE(me_.hasAlert());
-  me_.tap("Cancel");
-  me_.tap("Cancel");
+  const auto remove = [&] { tap({"Select", photo(1), "Delete"}); };
+  for (const Preferences& asking : {Preferences{}, Preferences{{"skipDelete", true}, {"enabled", false}}}) {
+    reload(asking);
+    remove();
+    EXPECT_TRUE(me_.hasAlert());
+    tap({"Cancel", "Cancel"});
+  }
   reload({{"skipDelete", true}});
-  remove(1);
+  remove();
   EXPECT_FALSE(me_.hasAlert());
   EXPECT_EQ(soonIn("Holidays"), "2 3");
 }
@@ -432,8 +395,7 @@ TEST_F(PhotoMove, AllHiddenPhotosAreReturnedAtOnce) {
   open(From::strip);
   returnAllPhotos();
   me_.waitToSee("No photos to return.");
-  hide(1);
-  hide(3);
+  for (const int number : {1, 3}) hide(number);
   {
     const HeldLibrary held;
     returnAllPhotos();
