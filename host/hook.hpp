@@ -142,8 +142,8 @@ consteval HookRow add(const char* className, const char* selector, const char* e
   return {className, selector, encoding, &hook_details::Addition<Function>::install};
 }
 
-/// What `Function` replaced, for another hook that needs the host's own method: as if that had been called
-/// for the receiver, of the class in the function's row.
+/// The host's method that `Function` replaced, for another hook, bound to a receiver of the class in its row,
+/// or to that class itself for a class method. The selector is the row's, which nothing checks.
 template <auto Function, Name Selector>
 auto replacedBy(Object receiver) {
   using hook_details::Replacement;

@@ -101,8 +101,8 @@ class PHAssetCollection : public HostClass<"PHAssetCollection", PHCollection> {
     return understands<"assetCollectionSubtype">() ? send<"assetCollectionSubtype", Subtype()>()
                                                    : Subtype::none;
   }
-  /// Whether it owns up to having a subtype. One that does not may still hand the question on to another
-  /// object.
+  /// Whether it says that it responds to the question for its subtype. A proxy may not and answer it all the
+  /// same.
   bool tellsSubtype() const { return responds<"assetCollectionSubtype">(); }
 
   static PHFetchResult<PHAssetCollection> fetch(Type type, Subtype subtype, PHFetchOptions options) {

@@ -9,16 +9,17 @@ namespace velvault12 {
 // Hooks. The host may call them on any thread. Options that the caller passes are its own: the host fetches
 // with a copy of them.
 
-// All that a collection holds, or the few that stand for it: nil where that is hidden from the app, from
-// Photos never. Assets that their owner has hidden are among them, except in the camera roll and, as long as
-// it is not for the few, in the album of all photos.
-
+/// What a collection holds: nil where that is hidden from the app, from Photos never. Hidden photos are
+/// included, except from the camera roll and the album of all photos.
 PHFetchResult<PHAsset> fetchAssets(Object assetClass,
                                    Replaced<PHFetchResult<PHAsset>(PHAssetCollection, PHFetchOptions)> host,
                                    PHAssetCollection collection, PHFetchOptions options);
+/// The few that stand for it: nil where it is locked. Hidden photos are included, except from the camera
+/// roll.
 PHFetchResult<PHAsset> fetchKeyAssets(
     Object assetClass, Replaced<PHFetchResult<PHAsset>(PHAssetCollection, PHFetchOptions)> host,
     PHAssetCollection collection, PHFetchOptions options);
+/// The host's answer, with hidden photos included in its options.
 PHFetchResult<PHAssetCollection> fetchAssetCollections(
     Object collectionClass,
     Replaced<PHFetchResult<PHAssetCollection>(PHAssetCollection::Type, PHAssetCollection::Subtype,
@@ -34,7 +35,7 @@ NSArray fetchedObjects(PHFetchResult<Object> result, Replaced<NSArray()> host);
 
 // For other hooks.
 
-/// All assets of the album, hidden ones as well, of the host that refuses none.
+/// All assets of the album, hidden ones as well, asked of the host's own method, so that nothing is refused.
 PHFetchResult<PHAsset> fetchFromHost(PHAssetCollection album);
 
 }  // namespace velvault12

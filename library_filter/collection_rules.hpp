@@ -19,7 +19,8 @@ struct CollectionTraits {
 
   Type type = Type::none;
   std::int64_t subtype = 0;
-  /// Whether it owns up to having a subtype: a folder has none, a proxy may hand the question on.
+  /// Whether it says that it responds to the question for its subtype: a folder does not, a proxy may not and
+  /// answer it all the same.
   bool tellsSubtype = false;
   bool isTrashBin = false;
   std::optional<std::string> title;

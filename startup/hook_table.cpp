@@ -91,8 +91,8 @@ constexpr HookRow kSpringBoardHooks[] = {
     add<serveAuthenticate>("SpringBoard", "authenticate:withUserInfo:", "v@:@@"),
 };
 
-// Every app gets these as well. In Photos the lists of collections are replaced twice: what comes last is
-// called first.
+// Every app but the shop demonstration gets these as well. In Photos the lists of collections are replaced
+// twice: what comes last is called first.
 constexpr HookRow kLibraryFilterHooks[] = {
     replace<listedCollections>("PHCollectionList", "collections"),
     replace<fetchedObjects>("PHFetchResult", "fetchedObjects"),

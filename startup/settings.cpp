@@ -30,7 +30,7 @@ class SettingsInForce {
     return settings_;
   }
   void set(std::shared_ptr<const Settings> read) {
-    // What they replace goes after the lock, with the parameter.
+    // The old settings are freed with the parameter, after the lock.
     const std::lock_guard lock(mutex_);
     settings_.swap(read);
   }

@@ -20,10 +20,12 @@ PHFetchResult* everyAlbumOfType(NSInteger type) {
                                                   options:nil];
 }
 
+/// Those that hold something, or do not tell.
 NSArray* smartAlbumsInUse() {
   NSMutableArray* inUse = [NSMutableArray array];
   for (PHAssetCollection* album in everyAlbumOfType(PHAssetCollectionTypeSmartAlbum)) {
-    if ([[PHAsset fetchAssetsInAssetCollection:album options:nil] count]) [inUse addObject:album];
+    PHFetchResult* assets = [PHAsset fetchAssetsInAssetCollection:album options:nil];
+    if (!assets || [assets count]) [inUse addObject:album];
   }
   return inUse;
 }

@@ -12,7 +12,7 @@ constexpr std::string_view kLockedAlbums = "/var/mobile/Library/velvault/lockedA
 constexpr std::string_view kPadlock = "whitelock";
 constexpr std::int64_t kPlaces = 1000000203;
 
-/// Once it has looked at the library again.
+/// Has the app look at the library again; answers its user.
 const User& refreshed(const Phone& phone, std::string_view gallery) {
   const User& user = phone.in(gallery);
   user.tap("Refresh");

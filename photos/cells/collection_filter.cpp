@@ -39,7 +39,7 @@ NSArray collectionsInPhotos(PHCollectionList list, Replaced<NSArray()> host) {
     if (isListedInPhotos(traits, *chosen)) shown->addObject(each);
     hasSmartAlbums = hasSmartAlbums || traits.type == CollectionTraits::Type::smartAlbum;
   }
-  // Nothing here depends on it, but the tiles that show the list do, and they are the main thread's.
+  // The locked albums do not matter to this list, but to the tiles that show it, which are the main thread's.
   if (hasSmartAlbums && NSThread::isMainThread()) albumLock().reload();
   return std::move(shown).autorelease();
 }

@@ -9,7 +9,8 @@
 namespace velvault12 {
 
 /// The Photos app's objects that an answer of SpringBoard can be for, or that tell what its user has
-/// selected: of each kind the latest, kept alive until another takes its place. Main thread only.
+/// selected: of each kind the latest, kept alive until another takes its place. Main thread only, but for
+/// what says otherwise.
 struct ControllerRegistry {
   Ref<Object> albumList;
   /// The tile that locked or that asked for its owner last.
@@ -24,7 +25,8 @@ struct ControllerRegistry {
   Ref<Object> curatedLibrary;
   /// A zoomable grid has come on screen since a view was last given an album.
   bool gridShown = false;
-  /// The album that it was given is the camera roll. Any thread: lists of albums are made on others as well.
+  /// The album last given to `albumView` is the camera roll. Any thread: lists of albums are made on others
+  /// as well.
   std::atomic<bool> albumIsCameraRoll = false;
 
   /// Records who an answer will be for.

@@ -126,7 +126,7 @@ TEST_F(DamagedFiles, EveryProcessStartsAndGoesOnWithDefaultsAndWithoutLocks) {
   const auto leaveAlbumAfterReload = [&] {
     phone_.post(kReload);
     owner.screen();
-    me_.screen();
+    turn();
     me_.tap("Pets");
     me_.leaveApp();
     me_.returnToApp();

@@ -257,7 +257,7 @@ TEST_F(LibraryFilter, OneCallReadsTheLockedAlbumsOnceAndOnlyWhereTheyCount) {
       photos(listOf(NSArray::of(smartAlbum(209))));
   const Ref<PHAssetCollection> album(albumNamed("Moved"));
   EXPECT_EQ(opened([] { root(); }), once);
-  EXPECT_EQ(opened([&] { membersOf(smart.get()); }), once);
+  EXPECT_EQ(opened([&] { EXPECT_EQ(membersOf(smart.get()).count(), 0u); }), once);
   EXPECT_EQ(opened([&] { membersOf(photos.get()); }), 0);
   EXPECT_EQ(opened([&] { in(album.get()); }), once);
   EXPECT_EQ(opened([&] { keyAssetsOf(album.get()); }), once);
