@@ -30,6 +30,13 @@ std::string bothShow(const Phone& phone, std::string_view row) {
   return "\"" + std::string(row) + "\" is in both";
 }
 
+int padlocksIn(const User& photos) {
+  const std::string screen = photos.screen();
+  int count = 0;
+  for (auto at = screen.find(kPadlock); at != std::string::npos; at = screen.find(kPadlock, at + 1)) ++count;
+  return count;
+}
+
 /// The Albums tab, made anew.
 const User& albumsTab(const Phone& phone) {
   const User& photos = phone.in(kPhotos);
@@ -98,6 +105,7 @@ void hideSmartAlbums(Story& story, Phone& phone) {
     bothShow(phone, "Videos: 1 photo");
     phone.in(kPhotos).longPress("Places");
     phone.onceHolds(kLockedAlbums, {"Pets", "Places"});
+    phone.waitUntil("a padlock on each of the two", [&] { return padlocksIn(phone.in(kPhotos)) == 2; });
     return onlyShopShows(phone, "Places: 1 photo") + ". In Photos it is locked";
   });
 }
