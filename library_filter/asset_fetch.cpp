@@ -1,6 +1,7 @@
 #include "library_filter/asset_fetch.hpp"
 
 #include "library_filter/collection_traits.hpp"
+#include "library_filter/locked_albums.hpp"
 #include "library_filter/photos_app.hpp"
 #include "startup/settings.hpp"
 

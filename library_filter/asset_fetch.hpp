@@ -2,7 +2,6 @@
 
 #include "host/hook.hpp"
 #include "host/photos.hpp"
-#include "library_filter/locked_albums.hpp"
 
 namespace velvault12 {
 

@@ -1,5 +1,7 @@
 #include "library_filter/collection_traits.hpp"
 
+#include <cstdint>
+
 namespace velvault12 {
 
 CollectionTraits traitsOf(PHAssetCollection collection) {

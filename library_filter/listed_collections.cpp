@@ -1,7 +1,10 @@
 #include "library_filter/listed_collections.hpp"
 
+#include <utility>
+
 #include "library_filter/asset_fetch.hpp"
 #include "library_filter/collection_traits.hpp"
+#include "library_filter/locked_albums.hpp"
 #include "library_filter/photos_app.hpp"
 #include "startup/settings.hpp"
 
