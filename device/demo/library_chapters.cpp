@@ -106,7 +106,9 @@ void hideSmartAlbums(Story& story, Phone& phone) {
     phone.in(kPhotos).longPress("Places");
     phone.onceHolds(kLockedAlbums, {"Pets", "Places"});
     phone.waitUntil("a padlock on each of the two", [&] { return padlocksIn(phone.in(kPhotos)) == 2; });
-    return onlyShopShows(phone, "Places: 1 photo") + ". In Photos it is locked";
+    const std::string gone = onlyShopShows(phone, "Places: 1 photo");
+    expect(!phone.in(kGallery).sees("Places"), "its name is gone as well");
+    return gone + ". In Photos it is locked";
   });
 }
 
