@@ -3,7 +3,12 @@
 #import <Foundation/Foundation.h>
 #include <objc/runtime.h>
 
+#include <cctype>
+#include <string_view>
+#include <utility>
+
 #include "device/frameworks/installed_hooks.hpp"
+#include "device/system/loader.hpp"
 #include "device/system/method_replacement.hpp"
 
 namespace device {
@@ -12,6 +17,27 @@ namespace {
 std::vector<InstalledHook>& hooks() {
   static std::vector<InstalledHook> installed;
   return installed;
+}
+
+/// Without the places of arguments, and with BOOL as an iPhone has it. Names of structures stay.
+std::string plainEncoding(std::string_view types) {
+  std::string plain;
+  int depth = 0;
+  bool isName = false;
+  for (const char c : types) {
+    if (c == '{' || c == '[') ++depth;
+    if (c == '}' || c == ']') --depth;
+    if (c == '{') isName = true;
+    if (c == '=' || c == '}') isName = false;
+    if (depth == 0 && std::isdigit(c)) continue;
+    plain += c == 'C' && !isName ? 'B' : c;
+  }
+  return plain;
+}
+
+void record(Class type, SEL selector, std::string encoding, InstalledHook::Kind kind) {
+  const bool isClassMethod = class_isMetaClass(type);
+  hooks().push_back({class_getName(type), sel_getName(selector), std::move(encoding), kind, isClassMethod});
 }
 
 }  // namespace
@@ -28,6 +54,15 @@ void MSHookMessageEx(Class targetClass, SEL selector, IMP replacement, IMP* repl
     return;
   }
   if (replaced) *replaced = implementation;
-  const bool isClassMethod = class_isMetaClass(targetClass);
-  device::hooks().push_back({class_getName(targetClass), sel_getName(selector), isClassMethod});
+  const char* const types = method_getTypeEncoding(class_getInstanceMethod(targetClass, selector));
+  device::record(targetClass, selector, device::plainEncoding(types), device::InstalledHook::Kind::replaced);
+}
+
+/// Stands in front of the runtime's own. The frameworks call it too, but not while a library is being loaded.
+BOOL class_addMethod(Class targetClass, SEL selector, IMP implementation, const char* types) {
+  const bool isAdded = device::addMethod(targetClass, selector, implementation, types);
+  if (isAdded && device::isLoadingLibrary()) {
+    device::record(targetClass, selector, types, device::InstalledHook::Kind::added);
+  }
+  return isAdded;
 }

@@ -6,4 +6,7 @@ namespace device {
 /// bundle, a framework that it links, or a class that it has. One that cannot be loaded is told on the log.
 void loadInjectedLibraries();
 
+/// Whether this thread is loading one at this moment.
+bool isLoadingLibrary();
+
 }  // namespace device

@@ -43,6 +43,8 @@ bool namesThisProcess(const fs::path& filterFile) {
   return false;
 }
 
+thread_local bool isLoading = false;
+
 std::vector<fs::path> filterFiles() {
   std::vector<fs::path> files;
   std::error_code ignored;
@@ -61,9 +63,13 @@ void loadInjectedLibraries() {
   for (const fs::path& filter : filterFiles()) {
     if (!namesThisProcess(filter)) continue;
     const fs::path library = fs::path(filter).replace_extension(".dylib");
+    isLoading = true;
     if (!::dlopen(library.c_str(), RTLD_NOW | RTLD_LOCAL)) NSLog(@"not loaded: %s", ::dlerror());
+    isLoading = false;
   }
   [pool drain];
 }
+
+bool isLoadingLibrary() { return isLoading; }
 
 }  // namespace device

@@ -1,6 +1,7 @@
 #include "device/system/method_replacement.hpp"
 
 #import <Foundation/Foundation.h>
+#include <dlfcn.h>
 #include <objc/runtime.h>
 
 // The runtime's own, exported but in no header: rebuilds what subclasses in use inherited.
@@ -25,13 +26,18 @@ void clearConstructionMark(Class metaclass) {
 
 }  // namespace
 
+bool addMethod(Class targetClass, SEL selector, IMP implementation, const char* types) {
+  static const auto add = reinterpret_cast<decltype(&class_addMethod)>(::dlsym(RTLD_NEXT, "class_addMethod"));
+  return add(targetClass, selector, implementation, types);
+}
+
 IMP replaceMethod(Class targetClass, SEL selector, IMP replacement) {
   const Method method = targetClass ? class_getInstanceMethod(targetClass, selector) : nullptr;
   if (!method) return nullptr;
   const IMP replaced = method_getImplementation(method);
   if (class_isMetaClass(targetClass)) clearConstructionMark(targetClass);
   // This runtime's class_replaceMethod would reach for the superclass's method where the class has none.
-  if (!class_addMethod(targetClass, selector, replacement, method_getTypeEncoding(method))) {
+  if (!addMethod(targetClass, selector, replacement, method_getTypeEncoding(method))) {
     method_setImplementation(method, replacement);
   }
   __objc_update_dispatch_table_for_class(targetClass);

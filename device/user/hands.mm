@@ -91,9 +91,7 @@ UIView* reachable(std::string_view text) {
 /// Scrolls through a view's content, half a page at a time, until the text is in sight.
 UIView* scrolledTo(UIScrollView* scrollView, std::string_view text) {
   const CGSize page = [scrollView bounds].size;
-  const CGSize content = [scrollView contentSize];
-  const CGPoint end = {std::max(content.width - page.width, 0.0),
-                       std::max(content.height - page.height, 0.0)};
+  const CGPoint end = [scrollView _endOffset];
   const CGPoint start = [scrollView contentOffset];
   if (end.x == 0 && end.y == 0) return nil;
   const CGSize step = {page.width / 2, page.height / 2};
@@ -213,6 +211,14 @@ void hold(UIView* target) {
   settle();
 }
 
+bool zoomsIn(UIView* view) {
+  if (![view isKindOfClass:[UIScrollView class]]) return false;
+  UIScrollView* scrollView = static_cast<UIScrollView*>(view);
+  if (![scrollView _zooms]) return false;
+  [scrollView setZoomScale:[scrollView maximumZoomScale]];
+  return true;
+}
+
 // The commands.
 
 using Arguments = std::vector<std::string>;
@@ -229,6 +235,13 @@ std::string scrollTo(const Arguments& arguments) {
 
 std::string longPress(const Arguments& arguments) {
   hold(find(arguments[0]));
+  return {};
+}
+
+std::string zoomIn(const Arguments& arguments) {
+  UIView* target = find(arguments[0]);
+  if (!isTaken(chainOf(touchedAt(target)), zoomsIn)) fail("nothing zooms around " + quoted(arguments[0]));
+  settle();
   return {};
 }
 
@@ -355,6 +368,7 @@ const std::map<std::string_view, Command> kCommands = {
     {"tap", {1, tap}},
     {"longPress", {1, longPress}},
     {"scrollTo", {1, scrollTo}},
+    {"zoomIn", {1, zoomIn}},
     {"type", {1, type}},
     {"back", {0, back}},
     {"leaveApp", {0, leaveApp}},

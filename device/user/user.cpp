@@ -32,6 +32,7 @@ std::string User::perform(const std::vector<std::string>& command) const { retur
 
 void User::tap(std::string_view text) const { perform({"tap", std::string(text)}); }
 void User::scrollTo(std::string_view text) const { perform({"scrollTo", std::string(text)}); }
+void User::zoomIn(std::string_view text) const { perform({"zoomIn", std::string(text)}); }
 void User::longPress(std::string_view text) const { perform({"longPress", std::string(text)}); }
 void User::type(std::string_view text) const { perform({"type", std::string(text)}); }
 void User::back() const { perform({"back"}); }

@@ -44,6 +44,8 @@ class User {
   void longPress(std::string_view text) const;
   /// Scrolls until something that bears the text is in sight.
   void scrollTo(std::string_view text) const;
+  /// Spreads two fingers on it: what it lies in is zoomed in, as far as it lets them.
+  void zoomIn(std::string_view text) const;
   /// Types into the text field of the alert in front, or the first one on screen, replacing its text.
   void type(std::string_view text) const;
   /// Taps the navigation bar's back button.

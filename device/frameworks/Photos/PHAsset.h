@@ -7,14 +7,18 @@
 
 enum PHAssetMediaType : NSInteger { PHAssetMediaTypeImage = 1, PHAssetMediaTypeVideo = 2 };
 
+enum PHAssetMediaSubtype : NSUInteger { PHAssetMediaSubtypePhotoLive = 1 << 3 };
+
 @interface PHAsset : PHObject {
   NSInteger _mediaType;
+  NSUInteger _mediaSubtypes;
   NSDate* _creationDate;
   BOOL _hidden;
   BOOL _favorite;
   std::uint32_t _color;
 }
 @property(nonatomic, readonly) NSInteger mediaType;
+@property(nonatomic, readonly) NSUInteger mediaSubtypes;
 @property(nonatomic, readonly) NSDate* creationDate;
 @property(nonatomic, readonly, getter=isHidden) BOOL hidden;
 @property(nonatomic, readonly, getter=isFavorite) BOOL favorite;

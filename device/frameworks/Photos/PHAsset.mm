@@ -18,6 +18,7 @@ CGFloat channel(std::uint32_t color, int shift) { return ((color >> shift) & 0xf
 @implementation PHAsset
 
 @synthesize mediaType = _mediaType;
+@synthesize mediaSubtypes = _mediaSubtypes;
 @synthesize creationDate = _creationDate;
 @synthesize hidden = _hidden;
 @synthesize favorite = _favorite;
@@ -27,6 +28,9 @@ CGFloat channel(std::uint32_t color, int shift) { return ((color >> shift) & 0xf
   self = [super _initWithLocalIdentifier:identifier];
   if (!self) return nil;
   _mediaType = static_cast<NSInteger>(row.mediaType);
+  if (row.smartSubtype == PHAssetCollectionSubtypeSmartAlbumLivePhotos) {
+    _mediaSubtypes = PHAssetMediaSubtypePhotoLive;
+  }
   _creationDate = [[NSDate dateWithTimeIntervalSince1970:row.creationDate] retain];
   _hidden = row.isHidden;
   _favorite = row.isFavorite;

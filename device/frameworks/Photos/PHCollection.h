@@ -23,6 +23,7 @@ enum PHAssetCollectionSubtype : NSInteger {
   PHAssetCollectionSubtypeSmartAlbumFavorites = 203,
   PHAssetCollectionSubtypeSmartAlbumAllHidden = 205,
   PHAssetCollectionSubtypeSmartAlbumUserLibrary = 209,
+  PHAssetCollectionSubtypeSmartAlbumLivePhotos = 213,
   PHAssetCollectionSubtypeTrashBin = 1000000201,
   PHAssetCollectionSubtypePlaces = 1000000203,
   PHAssetCollectionSubtypeAny = NSIntegerMax,

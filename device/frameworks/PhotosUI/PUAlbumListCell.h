@@ -24,6 +24,7 @@
   UILabel* _subtitleLabel;
   PXUIButton* _deleteButton;
   NSString* _title;
+  CGSize _stackSize;
   id<PUAlbumListCellContentViewDelegate> _delegate;
   BOOL _editing;
   BOOL _showsDeleteButtonWhileEditing;
@@ -31,6 +32,8 @@
 @property(nonatomic, copy) NSString* title;
 @property(nonatomic, copy) NSString* subtitle;
 @property(nonatomic, readonly) PUStackView* stackView;
+/// None, as at first, is that of a square as wide as the tile.
+@property(nonatomic, setter=_setStackSize:) CGSize _stackSize;
 @property(nonatomic, readonly) UITextField* _titleTextField;
 @property(nonatomic, readonly) UILabel* _subtitleLabel;
 /// Nil outside editing. It reads "Delete <title>".
@@ -46,9 +49,16 @@
 @property(nonatomic, readonly) PUAlbumListCellContentView* albumListCellContentView;
 @end
 
+@interface PUAlbumListCellContentViewHelperConfiguration : NSObject
+/// Of a tile's pile of photos, in points.
+- (CGSize)stackSize;
+@end
+
 /// Fills tiles for whoever shows them.
-@interface PUAlbumListCellContentViewHelper : NSObject
-/// In points, texts included.
+@interface PUAlbumListCellContentViewHelper : NSObject {
+  PUAlbumListCellContentViewHelperConfiguration* _configuration;
+}
+/// In points, texts included. Ask anew each time that tiles are filled.
 - (CGSize)albumCellSize;
 /// How many photos or albums it holds.
 - (NSString*)subtitleForCollection:(PHCollection*)collection;

@@ -4,7 +4,8 @@
 
 namespace {
 
-constexpr CGFloat kTileWidth = 163;
+constexpr CGFloat kStackSize = 163;
+constexpr CGFloat kTextSpacing = 4;
 constexpr CGFloat kTextHeight = 20;
 constexpr CGFloat kDeleteButtonSize = 29;
 constexpr CGFloat kStackOffset = 4;
@@ -41,6 +42,7 @@ constexpr CGFloat kStackOffset = 4;
 
 @synthesize title = _title;
 @synthesize stackView = _stackView;
+@synthesize _stackSize = _stackSize;
 @synthesize _titleTextField = _titleTextField;
 @synthesize _subtitleLabel = _subtitleLabel;
 @synthesize _deleteButton = _deleteButton;
@@ -74,6 +76,11 @@ constexpr CGFloat kStackOffset = 4;
   [_title autorelease];
   _title = [title copy];
   [_titleTextField setText:title];
+  [self setNeedsLayout];
+}
+
+- (void)_setStackSize:(CGSize)size {
+  _stackSize = size;
   [self setNeedsLayout];
 }
 
@@ -112,9 +119,12 @@ constexpr CGFloat kStackOffset = 4;
 - (void)layoutSubviews {
   [super layoutSubviews];
   const CGFloat width = [self bounds].size.width;
-  [_stackView setFrame:CGRectMake(0, 0, width, width)];
-  [_titleTextField setFrame:CGRectMake(0, width + 4, width, kTextHeight)];
-  [_subtitleLabel setFrame:CGRectMake(0, width + 4 + kTextHeight, width, kTextHeight)];
+  const bool hasSize = !CGSizeEqualToSize(_stackSize, CGSizeZero);
+  const CGSize stack = hasSize ? _stackSize : CGSizeMake(width, width);
+  const CGFloat top = stack.height + kTextSpacing;
+  [_stackView setFrame:{CGPointZero, stack}];
+  [_titleTextField setFrame:CGRectMake(0, top, width, kTextHeight)];
+  [_subtitleLabel setFrame:CGRectMake(0, top + kTextHeight, width, kTextHeight)];
   [_deleteButton setFrame:CGRectMake(0, 0, kDeleteButtonSize, kDeleteButtonSize)];
 }
 
@@ -148,10 +158,30 @@ constexpr CGFloat kStackOffset = 4;
 
 @end
 
+@implementation PUAlbumListCellContentViewHelperConfiguration
+
+- (CGSize)stackSize {
+  return CGSizeMake(kStackSize, kStackSize);
+}
+
+@end
+
 @implementation PUAlbumListCellContentViewHelper
 
+- (id)init {
+  self = [super init];
+  if (self) _configuration = [[PUAlbumListCellContentViewHelperConfiguration alloc] init];
+  return self;
+}
+
+- (void)dealloc {
+  [_configuration release];
+  [super dealloc];
+}
+
 - (CGSize)albumCellSize {
-  return CGSizeMake(kTileWidth, kTileWidth + 4 + 2 * kTextHeight);
+  const CGSize stack = [_configuration stackSize];
+  return CGSizeMake(stack.width, stack.height + kTextSpacing + 2 * kTextHeight);
 }
 
 - (NSString*)subtitleForCollection:(PHCollection*)collection {
@@ -171,6 +201,7 @@ constexpr CGFloat kStackOffset = 4;
 }
 
 - (void)_fill:(PUAlbumListCellContentView*)tile with:(PHCollection*)collection {
+  [tile _setStackSize:[_configuration stackSize]];
   [tile setTitle:[collection localizedTitle]];
   [[tile stackView] _setColors:[self _colorsOfCollection:collection]];
   // Only what the owner made can be deleted.

@@ -4,13 +4,36 @@
 #import "device/frameworks/PhotosUI/PUPhotosGridViewController.h"
 
 namespace {
+
 NSString* const kCell = @"PUAlbumListCell";
 constexpr CGFloat kSpacing = 16;
 constexpr CGFloat kBannerHeight = 44;
+
+void addUnlessEmpty(NSInteger smartAlbumSubtype, NSMutableArray* albums) {
+  for (PHAssetCollection* album in
+       [PHAssetCollection fetchAssetCollectionsWithType:PHAssetCollectionTypeSmartAlbum
+                                                subtype:smartAlbumSubtype
+                                                options:nil]) {
+    if ([PUAssetsInCollection(album) count]) [albums addObject:album];
+  }
+}
+
 }  // namespace
 
 PHCollectionList* PUUserCollections() {
   return [[PHCollectionList fetchRootAlbumCollectionListWithOptions:nil] firstObject];
+}
+
+PHCollectionList* PUCollectionsOfKinds(std::span<const PUCollectionKind> kinds, NSString* title) {
+  NSMutableArray* collections = [NSMutableArray array];
+  for (const auto& [type, subtype] : kinds) {
+    for (PHAssetCollection* collection in [PHAssetCollection fetchAssetCollectionsWithType:type
+                                                                                   subtype:subtype
+                                                                                   options:nil]) {
+      [collections addObject:collection];
+    }
+  }
+  return [PHCollectionList transientCollectionListWithCollections:collections title:title];
 }
 
 UIViewController* PUViewControllerForCollection(PHCollection* collection) {
@@ -45,8 +68,15 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
   self = [super init];
   if (!self) return nil;
   _dataSourceManager = [[PXPhotoKitCollectionsDataSourceManager alloc] initWithCollectionList:list];
+  _isTopLevel = [list isEqual:PUUserCollections()];
   _helper = [[PUAlbumListCellContentViewHelper alloc] init];
   [self _updateNavigationItem];
+  return self;
+}
+
+- (id)_initFetchingCollectionList:(PHCollectionList* (*)())fetch {
+  self = [self initWithCollectionList:nil];
+  if (self) _fetchList = fetch;
   return self;
 }
 
@@ -73,7 +103,6 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
 - (void)viewDidLoad {
   [super viewDidLoad];
   UICollectionViewFlowLayout* layout = [[[UICollectionViewFlowLayout alloc] init] autorelease];
-  [layout setItemSize:[_helper albumCellSize]];
   [layout _setSpacing:kSpacing];
   _mainCollectionView = [[PUCollectionView alloc] initWithFrame:[[self view] bounds]
                                            collectionViewLayout:layout];
@@ -101,9 +130,34 @@ UIViewController* PUViewControllerForCollection(PHCollection* collection) {
   [super viewDidLayoutSubviews];
 }
 
+- (BOOL)showPeople {
+  return YES;
+}
+
+- (BOOL)showPlaces {
+  return YES;
+}
+
+- (NSArray*)_peopleAndPlaces {
+  NSMutableArray* albums = [NSMutableArray array];
+  if ([self showPeople]) addUnlessEmpty(PHAssetCollectionSubtypeSmartAlbumGeneric, albums);
+  if ([self showPlaces]) addUnlessEmpty(PHAssetCollectionSubtypePlaces, albums);
+  return albums;
+}
+
 - (void)reloadContentView {
+  if (_fetchList) {
+    [_dataSourceManager release];
+    _dataSourceManager = [PXPhotoKitCollectionsDataSourceManager alloc];
+    _dataSourceManager = [_dataSourceManager initWithCollectionList:_fetchList()];
+  }
+  NSArray* collections = [_dataSourceManager _collections];
+  if (_isTopLevel && !_source) {
+    collections = [collections arrayByAddingObjectsFromArray:[self _peopleAndPlaces]];
+  }
   [_collections release];
-  _collections = [[_dataSourceManager _collections] copy];
+  _collections = [collections copy];
+  [[_mainCollectionView collectionViewLayout] setItemSize:[_helper albumCellSize]];
   [_mainCollectionView reloadData];
 }
 

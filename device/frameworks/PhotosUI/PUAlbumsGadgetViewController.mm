@@ -8,19 +8,13 @@
 
 namespace {
 
-struct Kind {
-  NSInteger type;
-  NSInteger subtype;
-};
-
 constexpr NSInteger kSmart = PHAssetCollectionTypeSmartAlbum;
 
-constexpr Kind kSharedAlbums[] = {{PHAssetCollectionTypeAlbum, PHAssetCollectionSubtypeAlbumCloudShared}};
-constexpr Kind kPeopleAndPlaces[] = {
+constexpr PUCollectionKind kPeopleAndPlaces[] = {
     {kSmart, PHAssetCollectionSubtypeSmartAlbumGeneric},
     {kSmart, PHAssetCollectionSubtypePlaces},
 };
-constexpr Kind kMediaTypes[] = {
+constexpr PUCollectionKind kMediaTypes[] = {
     {kSmart, PHAssetCollectionSubtypeSmartAlbumVideos},
     {kSmart, 210},
     {kSmart, 213},
@@ -35,7 +29,7 @@ constexpr Kind kMediaTypes[] = {
     {kSmart, 1000000207},
     {kSmart, 1000000208},
 };
-constexpr Kind kOtherAlbums[] = {
+constexpr PUCollectionKind kOtherAlbums[] = {
     {PHAssetCollectionTypeImportHistory, PHAssetCollectionSubtypeAny},
     {kSmart, PHAssetCollectionSubtypeSmartAlbumAllHidden},
     {kSmart, PHAssetCollectionSubtypeTrashBin},
@@ -44,14 +38,14 @@ constexpr Kind kOtherAlbums[] = {
 struct Section {
   const char* title;
   /// None for all that the user made.
-  std::span<const Kind> kinds;
+  std::span<const PUCollectionKind> kinds;
   /// A strip's; 0 makes it a list.
   NSUInteger albumListType;
 };
 
 constexpr Section kSections[] = {
     {"My Albums", {}, PUAlbumListTypeUserAlbums},
-    {"Shared Albums", kSharedAlbums, PUAlbumListTypeSharedAlbums},
+    {"Shared Albums", PUSharedAlbumKinds, PUAlbumListTypeSharedAlbums},
     {"People & Places", kPeopleAndPlaces, PUAlbumListTypePeopleAndPlaces},
     {"Media Types", kMediaTypes, 0},
     {"Other Albums", kOtherAlbums, 0},
@@ -72,17 +66,7 @@ UIViewController* gadgetOf(const Section& section) {
 
 PHCollectionList* collectionsOf(const Section& section) {
   if (section.kinds.empty()) return PUUserCollections();
-  NSMutableArray* collections = [NSMutableArray array];
-  for (const auto& [type, subtype] : section.kinds) {
-    for (PHAssetCollection* collection in [PHAssetCollection fetchAssetCollectionsWithType:type
-                                                                                   subtype:subtype
-                                                                                   options:nil]) {
-      [collections addObject:collection];
-    }
-  }
-  return
-      [PHCollectionList transientCollectionListWithCollections:collections
-                                                         title:[NSString stringWithUTF8String:section.title]];
+  return PUCollectionsOfKinds(section.kinds, [NSString stringWithUTF8String:section.title]);
 }
 
 }  // namespace
@@ -155,10 +139,7 @@ PHCollectionList* collectionsOf(const Section& section) {
 
 - (id)initWithProvider:(PUAlbumsGadgetProvider*)provider {
   self = [super init];
-  if (!self) return nil;
-  _provider = [provider retain];
-  PUAlbumListCellContentViewHelper* helper = [[[PUAlbumListCellContentViewHelper alloc] init] autorelease];
-  [[[self collectionView] collectionViewLayout] setItemSize:[helper albumCellSize]];
+  if (self) _provider = [provider retain];
   return self;
 }
 

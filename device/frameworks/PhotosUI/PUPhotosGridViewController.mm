@@ -3,6 +3,7 @@
 #import "device/frameworks/PhotosUI/PUAlbumListViewController.h"
 #import "device/frameworks/PhotosUI/PUDeletePhotosActionController.h"
 #import "device/frameworks/PhotosUI/PULibraryChange.h"
+#import "device/frameworks/PhotosUI/PUOneUpViewController.h"
 #import "device/frameworks/PhotosUI/PUTabbedLibraryViewController.h"
 
 namespace {
@@ -10,6 +11,8 @@ namespace {
 NSString* const kCell = @"PUPhotosGridCell";
 constexpr CGFloat kPhotoSize = 92;
 constexpr CGFloat kSpacing = 1;
+constexpr CGFloat kHeaderHeight = 44;
+constexpr CGFloat kHeaderMargin = 16;
 
 UIBarButtonItem* barItem(NSString* title, id target, SEL action) {
   return [[[UIBarButtonItem alloc] initWithTitle:title style:0 target:target action:action] autorelease];
@@ -20,6 +23,13 @@ UIBarButtonItem* barItem(NSString* title, id target, SEL action) {
 NSString* PUNumberOfPhotos(NSUInteger count) {
   return [NSString
       stringWithFormat:@"%lu %@", static_cast<unsigned long>(count), count == 1 ? @"Photo" : @"Photos"];
+}
+
+NSString* PUDayOfAsset(PHAsset* asset) {
+  NSDateFormatter* formatter = [[[NSDateFormatter alloc] init] autorelease];
+  [formatter setTimeZone:[NSTimeZone timeZoneForSecondsFromGMT:0]];
+  [formatter setDateFormat:@"yyyy-MM-dd"];
+  return [formatter stringFromDate:[asset creationDate]];
 }
 
 @implementation PUPhotosGridCell
@@ -33,10 +43,44 @@ NSString* PUNumberOfPhotos(NSUInteger count) {
 
 @end
 
+@implementation PUSectionedGridLayout
+
+@synthesize itemSize = _itemSize;
+
+@end
+
+@implementation PUPhotosSectionHeaderView
+
+@synthesize titleLabel = _titleLabel;
+
+- (id)initWithFrame:(CGRect)frame {
+  self = [super initWithFrame:frame];
+  if (!self) return nil;
+  _titleLabel = [[UILabel alloc] init];
+  [_titleLabel setFont:[UIFont boldSystemFontOfSize:15]];
+  [self addSubview:_titleLabel];
+  return self;
+}
+
+- (void)dealloc {
+  [_titleLabel release];
+  [super dealloc];
+}
+
+- (void)layoutSubviews {
+  [super layoutSubviews];
+  const CGSize size = [self bounds].size;
+  [_titleLabel setFrame:CGRectMake(kHeaderMargin, 0, size.width - 2 * kHeaderMargin, size.height)];
+}
+
+@end
+
 @implementation PUPhotosGridViewController
 
+@synthesize initiallyScrolledToBottom = _initiallyScrolledToBottom;
+
 - (id)init {
-  UICollectionViewFlowLayout* layout = [[[UICollectionViewFlowLayout alloc] init] autorelease];
+  PUSectionedGridLayout* layout = [[[PUSectionedGridLayout alloc] init] autorelease];
   [layout setItemSize:CGSizeMake(kPhotoSize, kPhotoSize)];
   [layout _setSpacing:kSpacing];
   self = [super initWithCollectionViewLayout:layout];
@@ -66,6 +110,14 @@ NSString* PUNumberOfPhotos(NSUInteger count) {
   [self _refetch];
 }
 
+- (void)viewDidAppear:(BOOL)animated {
+  [super viewDidAppear:animated];
+  if (_hasAppeared) return;
+  _hasAppeared = YES;
+  if (![self initiallyScrolledToBottom] && ![[self _shownCollection] startsAtEnd]) return;
+  [[self collectionView] setContentOffset:[[self collectionView] _endOffset]];
+}
+
 - (void)viewWillDisappear:(BOOL)animated {
   [super viewWillDisappear:animated];
   if ([self isEditing]) [self setEditing:NO animated:animated];
@@ -74,7 +126,24 @@ NSString* PUNumberOfPhotos(NSUInteger count) {
 - (void)_refetch {
   [_assets release];
   _assets = [PUAssetsInCollection([self _shownCollection]) retain];
+  const CGFloat headerHeight = [self _showsSectionHeader] ? kHeaderHeight : 0;
+  [[[self collectionView] collectionViewLayout] setHeaderReferenceSize:CGSizeMake(0, headerHeight)];
   [[self collectionView] reloadData];
+}
+
+- (BOOL)_showsSectionHeader {
+  return NO;
+}
+
+- (UICollectionReusableView*)collectionView:(UICollectionView*)view
+          viewForSupplementaryElementOfKind:(NSString*)kind
+                                atIndexPath:(NSIndexPath*)path {
+  PUPhotosSectionHeaderView* header = [[[PUPhotosSectionHeaderView alloc] init] autorelease];
+  NSString* first = PUDayOfAsset([_assets firstObject]);
+  NSString* last = PUDayOfAsset([_assets lastObject]);
+  const bool isOneDay = [first isEqualToString:last];
+  [[header titleLabel] setText:isOneDay ? first : [NSString stringWithFormat:@"%@ – %@", first, last]];
+  return header;
 }
 
 - (PHAsset*)_assetAtIndexPath:(NSIndexPath*)path {
@@ -128,8 +197,8 @@ NSString* PUNumberOfPhotos(NSUInteger count) {
 }
 
 - (void)collectionView:(UICollectionView*)view didSelectItemAtIndexPath:(NSIndexPath*)path {
-  if (![self isEditing]) return;
   PHAsset* asset = [self _assetAtIndexPath:path];
+  if (![self isEditing]) return [self _showOneUp:asset];
   const bool selected = ![_selectedAssets containsObject:asset];
   if (selected) {
     [_selectedAssets addObject:asset];
@@ -138,6 +207,11 @@ NSString* PUNumberOfPhotos(NSUInteger count) {
   }
   [static_cast<PUPhotosGridCell*>([view cellForItemAtIndexPath:path]) _setAsset:asset selected:selected];
   [self _updateToolbarItems];
+}
+
+- (void)_showOneUp:(PHAsset*)asset {
+  PUOneUpViewController* viewer = [[[PUOneUpViewController alloc] _initWithAsset:asset] autorelease];
+  [[self navigationController] pushViewController:viewer animated:YES];
 }
 
 // What is done with the selection.
@@ -194,7 +268,9 @@ NSString* PUNumberOfPhotos(NSUInteger count) {
 
 - (id)init {
   self = [super init];
-  if (self) [self setTitle:@"Photos"];
+  if (!self) return nil;
+  [self setTitle:@"Photos"];
+  [self setInitiallyScrolledToBottom:YES];
   return self;
 }
 
@@ -235,6 +311,14 @@ NSString* PUNumberOfPhotos(NSUInteger count) {
 
 - (PHAssetCollection*)_shownCollection {
   return _assetCollection;
+}
+
+- (BOOL)shouldShowSectionHeaders {
+  return YES;
+}
+
+- (BOOL)_showsSectionHeader {
+  return [self shouldShowSectionHeaders] && [_assets count] > 0;
 }
 
 @end

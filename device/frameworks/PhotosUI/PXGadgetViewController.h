@@ -41,6 +41,6 @@ enum PXGadgetType : NSUInteger {
 - (id)_gadgetAtIndexPath:(NSIndexPath*)path;
 @end
 
-/// Is a gadget, and shows gadgets of its layout's item size side by side.
+/// Is a gadget, and shows gadgets side by side.
 @interface PXHorizontalCollectionGadget : PXGadgetViewController <PXGadget>
 @end

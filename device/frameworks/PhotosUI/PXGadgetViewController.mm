@@ -1,5 +1,7 @@
 #import "device/frameworks/PhotosUI/PXGadgetViewController.h"
 
+#include <algorithm>
+
 namespace {
 NSString* const kCell = @"PXGadgetCell";
 constexpr CGFloat kHeadingHeight = 44;
@@ -181,7 +183,8 @@ constexpr CGFloat kSpacing = 16;
 }
 
 - (CGSize)sizeThatFits:(CGSize)size {
-  const CGFloat height = [[[self collectionView] collectionViewLayout] itemSize].height;
+  CGFloat height = 0;
+  for (id<PXGadget> gadget in _gadgets) height = std::max(height, [gadget sizeThatFits:size].height);
   return CGSizeMake(size.width, height + 2 * kSpacing);
 }
 

@@ -342,6 +342,14 @@ void removeAllSubviews(UIView* view) {
   }
 }
 
+/// The content beside it takes its place or gives it back.
+- (void)setHidden:(BOOL)hidden {
+  if (hidden == [self isHidden]) return;
+  [super setHidden:hidden];
+  [[self superview] setNeedsLayout];
+  if (!hidden) [self setNeedsLayout];
+}
+
 - (void)_buttonTapped:(UITabBarButton*)button {
   [_delegate tabBar:self didSelectItem:[_items objectAtIndex:[_subviews indexOfObjectIdenticalTo:button]]];
 }

@@ -2,7 +2,9 @@
 
 #import "device/frameworks/UIKit/UIView.h"
 
-@class UICollectionView, UICollectionViewCell;
+@class UICollectionReusableView, UICollectionView, UICollectionViewCell;
+
+extern NSString* const UICollectionElementKindSectionHeader;
 
 @interface NSIndexPath (UIKit)
 + (NSIndexPath*)indexPathForItem:(NSInteger)item inSection:(NSInteger)section;
@@ -16,15 +18,28 @@
 @optional
 - (void)scrollViewWillBeginDragging:(UIScrollView*)scrollView;
 - (void)scrollViewDidScroll:(UIScrollView*)scrollView;
+/// The scroll view zooms only with an answer.
+- (UIView*)viewForZoomingInScrollView:(UIScrollView*)scrollView;
 @end
 
 @interface UIScrollView : UIView {
   CGSize _contentSize;
+  CGFloat _minimumZoomScale;
+  CGFloat _maximumZoomScale;
+  CGFloat _zoomScale;
   id _delegate;
 }
 @property(nonatomic) CGSize contentSize;
 @property(nonatomic) CGPoint contentOffset;
+@property(nonatomic) CGFloat minimumZoomScale;
+@property(nonatomic) CGFloat maximumZoomScale;
+/// Kept between the two others. What is in the middle stays there, as far as the content reaches.
+@property(nonatomic) CGFloat zoomScale;
 @property(nonatomic, assign) id delegate;
+/// Whether two fingers zoom it.
+@property(nonatomic, readonly) BOOL _zooms;
+/// Where the end of its content is in sight.
+@property(nonatomic, readonly) CGPoint _endOffset;
 /// Scrolls as a finger does.
 - (void)_dragToContentOffset:(CGPoint)offset;
 @end
@@ -32,6 +47,10 @@
 @protocol UICollectionViewDataSource <NSObject>
 - (NSInteger)collectionView:(UICollectionView*)view numberOfItemsInSection:(NSInteger)section;
 - (UICollectionViewCell*)collectionView:(UICollectionView*)view cellForItemAtIndexPath:(NSIndexPath*)path;
+@optional
+- (UICollectionReusableView*)collectionView:(UICollectionView*)view
+          viewForSupplementaryElementOfKind:(NSString*)kind
+                                atIndexPath:(NSIndexPath*)path;
 @end
 
 @class UICollectionViewLayout;
@@ -50,19 +69,28 @@ enum UICollectionViewScrollDirection : NSInteger {
   UICollectionViewScrollDirectionHorizontal = 1,
 };
 
-@interface UICollectionViewLayout : NSObject
-@end
-
 /// Rows from left to right under one another; a horizontal one has a single row.
-@interface UICollectionViewFlowLayout : UICollectionViewLayout {
-  CGSize _itemSize;
+@interface UICollectionViewLayout : NSObject {
   CGFloat _spacing;
+  CGSize _headerReferenceSize;
   NSInteger _scrollDirection;
 }
-@property(nonatomic) CGSize itemSize;
 /// Between items, between lines and around them all.
 @property(nonatomic, setter=_setSpacing:) CGFloat _spacing;
+/// A header without height is none; its width is the collection view's.
+@property(nonatomic) CGSize headerReferenceSize;
 @property(nonatomic) NSInteger scrollDirection;
+@end
+
+/// What each of its subclasses has, and it has not.
+@interface UICollectionViewLayout (ItemSize)
+@property(nonatomic) CGSize itemSize;
+@end
+
+@interface UICollectionViewFlowLayout : UICollectionViewLayout {
+  CGSize _itemSize;
+}
+@property(nonatomic) CGSize itemSize;
 @end
 
 @interface UICollectionReusableView : UIView {
@@ -81,15 +109,16 @@ enum UICollectionViewScrollDirection : NSInteger {
 
 /// One section of cells, of which those exist that are in sight.
 @interface UICollectionView : UIScrollView {
-  UICollectionViewFlowLayout* _layout;
+  UICollectionViewLayout* _layout;
   id<UICollectionViewDataSource> _dataSource;
   NSMutableDictionary* _cellClasses;
   NSMutableDictionary* _reusableCells;
   NSMutableDictionary* _visibleCells;
+  UICollectionReusableView* _header;
   NSInteger _itemCount;
 }
-- (id)initWithFrame:(CGRect)frame collectionViewLayout:(UICollectionViewFlowLayout*)layout;
-@property(nonatomic, readonly) UICollectionViewFlowLayout* collectionViewLayout;
+- (id)initWithFrame:(CGRect)frame collectionViewLayout:(UICollectionViewLayout*)layout;
+@property(nonatomic, readonly) UICollectionViewLayout* collectionViewLayout;
 /// Not retained, nor is the delegate.
 @property(nonatomic, assign) id<UICollectionViewDataSource> dataSource;
 - (void)registerClass:(Class)cellClass forCellWithReuseIdentifier:(NSString*)identifier;

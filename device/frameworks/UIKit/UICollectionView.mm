@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+NSString* const UICollectionElementKindSectionHeader = @"UICollectionElementKindSectionHeader";
+
 @implementation NSIndexPath (UIKit)
 
 + (NSIndexPath*)indexPathForItem:(NSInteger)item inSection:(NSInteger)section {
@@ -23,11 +25,16 @@
 @implementation UIScrollView
 
 @synthesize contentSize = _contentSize;
+@synthesize minimumZoomScale = _minimumZoomScale;
+@synthesize maximumZoomScale = _maximumZoomScale;
+@synthesize zoomScale = _zoomScale;
 @synthesize delegate = _delegate;
 
 - (id)initWithFrame:(CGRect)frame {
   self = [super initWithFrame:frame];
-  if (self) [self setClipsToBounds:YES];
+  if (!self) return nil;
+  _minimumZoomScale = _maximumZoomScale = _zoomScale = 1;
+  [self setClipsToBounds:YES];
   return self;
 }
 
@@ -48,16 +55,57 @@
   if ([_delegate respondsToSelector:@selector(scrollViewDidScroll:)]) [_delegate scrollViewDidScroll:self];
 }
 
+- (CGPoint)_endOffset {
+  return {std::max(_contentSize.width - _bounds.size.width, 0.0),
+          std::max(_contentSize.height - _bounds.size.height, 0.0)};
+}
+
+- (void)_stayWithinContent {
+  const CGPoint end = [self _endOffset];
+  _bounds.origin = {std::clamp(_bounds.origin.x, 0.0, end.x), std::clamp(_bounds.origin.y, 0.0, end.y)};
+}
+
+// Zooming.
+
+- (UIView*)_zoomedView {
+  if (![_delegate respondsToSelector:@selector(viewForZoomingInScrollView:)]) return nil;
+  return [_delegate viewForZoomingInScrollView:self];
+}
+
+- (BOOL)_zooms {
+  return _minimumZoomScale < _maximumZoomScale && [self _zoomedView];
+}
+
+/// The view's frame grows by its size, not by a transform: touches here do not follow one.
+- (void)setZoomScale:(CGFloat)scale {
+  UIView* zoomed = [self _zoomedView];
+  if (!zoomed) return;
+  scale = std::max(_minimumZoomScale, std::min(scale, _maximumZoomScale));
+  const CGFloat growth = scale / _zoomScale;
+  _zoomScale = scale;
+  const auto [origin, size] = [zoomed frame];
+  [zoomed
+      setFrame:CGRectMake(origin.x * growth, origin.y * growth, size.width * growth, size.height * growth)];
+  _contentSize = {_contentSize.width * growth, _contentSize.height * growth};
+  const CGPoint middle = CGRectGetCenter(_bounds);
+  [self setContentOffset:{_bounds.origin.x + middle.x * (growth - 1),
+                          _bounds.origin.y + middle.y * (growth - 1)}];
+  [self _stayWithinContent];
+}
+
 @end
 
 @implementation UICollectionViewLayout
+
+@synthesize _spacing = _spacing;
+@synthesize headerReferenceSize = _headerReferenceSize;
+@synthesize scrollDirection = _scrollDirection;
+
 @end
 
 @implementation UICollectionViewFlowLayout
 
 @synthesize itemSize = _itemSize;
-@synthesize _spacing = _spacing;
-@synthesize scrollDirection = _scrollDirection;
 
 - (id)init {
   self = [super init];
@@ -112,7 +160,7 @@
 @synthesize collectionViewLayout = _layout;
 @synthesize dataSource = _dataSource;
 
-- (id)initWithFrame:(CGRect)frame collectionViewLayout:(UICollectionViewFlowLayout*)layout {
+- (id)initWithFrame:(CGRect)frame collectionViewLayout:(UICollectionViewLayout*)layout {
   self = [super initWithFrame:frame];
   if (!self) return nil;
   _layout = [layout retain];
@@ -173,6 +221,8 @@
 
 - (void)reloadData {
   for (NSIndexPath* path in [self indexPathsForVisibleItems]) [self _recycleCellAtIndexPath:path];
+  [_header removeFromSuperview];
+  _header = nil;
   _itemCount = -1;
   [self setNeedsLayout];
 }
@@ -198,9 +248,10 @@
   const CGFloat spacing = [_layout _spacing];
   const bool wraps = [_layout scrollDirection] == UICollectionViewScrollDirectionVertical;
   std::vector<CGRect> frames;
-  CGPoint next = {spacing, spacing};
+  const CGFloat top = [_layout headerReferenceSize].height;
+  CGPoint next = {spacing, top + spacing};
   CGFloat lineHeight = 0;
-  _contentSize = CGSizeZero;
+  _contentSize = {0, top};
   for (NSInteger item = 0; item < [self numberOfItemsInSection:0]; ++item) {
     const CGSize size = [self _sizeForItemAtIndexPath:[NSIndexPath indexPathForItem:item inSection:0]];
     if (wraps && next.x > spacing && next.x + size.width + spacing > _bounds.size.width) {
@@ -230,12 +281,25 @@
     if (!cell) cell = [self _addCellAtIndexPath:path];
     [cell setFrame:frames[item]];
   }
+  [self _layOutHeader];
 }
 
-- (void)_stayWithinContent {
-  const CGPoint end = {std::max(_contentSize.width - _bounds.size.width, 0.0),
-                       std::max(_contentSize.height - _bounds.size.height, 0.0)};
-  _bounds.origin = {std::clamp(_bounds.origin.x, 0.0, end.x), std::clamp(_bounds.origin.y, 0.0, end.y)};
+- (void)_layOutHeader {
+  const CGFloat height = [_layout headerReferenceSize].height;
+  if (height <= 0) return;
+  if (!_header) {
+    // Not retained: it is a subview.
+    _header = [_dataSource collectionView:self
+        viewForSupplementaryElementOfKind:UICollectionElementKindSectionHeader
+                              atIndexPath:[NSIndexPath indexPathForItem:0 inSection:0]];
+    if (!_header) {
+      [NSException raise:NSInternalInconsistencyException
+                  format:@"the view returned from "
+                         @"-collectionView:viewForSupplementaryElementOfKind:atIndexPath: is nil"];
+    }
+    [self addSubview:_header];
+  }
+  [_header setFrame:CGRectMake(0, 0, _bounds.size.width, height)];
 }
 
 - (UICollectionViewCell*)_addCellAtIndexPath:(NSIndexPath*)path {

@@ -8,6 +8,6 @@
     : UIViewController <UICollectionViewDataSource, UICollectionViewDelegate> {
   UICollectionView* _collectionView;
 }
-- (id)initWithCollectionViewLayout:(UICollectionViewFlowLayout*)layout;
+- (id)initWithCollectionViewLayout:(UICollectionViewLayout*)layout;
 @property(nonatomic, readonly) UICollectionView* collectionView;
 @end

@@ -16,7 +16,7 @@
 
 @implementation UICollectionViewController
 
-- (id)initWithCollectionViewLayout:(UICollectionViewFlowLayout*)layout {
+- (id)initWithCollectionViewLayout:(UICollectionViewLayout*)layout {
   self = [super init];
   if (!self) return nil;
   const CGRect frame = [[UIScreen mainScreen] bounds];

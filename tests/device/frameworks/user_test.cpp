@@ -71,6 +71,7 @@ TEST_P(User, IsToldWhatWasOnScreenWhenAStepCannotBeDone) {
   const device::User& me = open(device::kPhotos);
   const std::function<void()> steps[] = {
       [&] { me.tap("Nothing"); },
+      [&] { me.zoomIn("Pets"); },
       [&] { me.type("text"); },
       [&] { me.back(); },
       [&] { me.alert(); },
