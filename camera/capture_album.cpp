@@ -20,6 +20,6 @@ void CaptureAlbum::choose(std::string title) {
 
 CaptureAlbum& captureAlbum() { return processWide<CaptureAlbum>(); }
 
-bool isPickerOn() { return settings()->enabled && settings()->enableCameraPicker; }
+bool isPickerOn() { return isChosen(&Settings::enableCameraPicker); }
 
 }  // namespace velvault12

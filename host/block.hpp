@@ -1,6 +1,7 @@
 #pragma once
 
 #include <new>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -32,6 +33,9 @@ struct Wire<Block<Signature>> {
   static Type to(Block<Signature> value) { return value.get(); }
   static Block<Signature> from(Type value) { return Block<Signature>(value); }
 };
+
+template <class Signature>
+inline constexpr std::string_view kEncoding<Block<Signature>> = "@?";
 
 template <class Signature, class Callable>
 class BlockLiteral;

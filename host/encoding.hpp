@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <type_traits>
 
@@ -10,12 +11,16 @@
 
 namespace velvault12 {
 
-/// How the runtime writes a type of the host down; empty for one that no added method and no block has.
+/// How the runtime writes a type of the host down, an enumeration as the integer that it is; empty for one
+/// that no method here and no block has.
 template <class T>
 inline constexpr std::string_view kEncoding;
 template <class T>
 requires std::is_base_of_v<Object, T>
 inline constexpr std::string_view kEncoding<T> = "@";
+template <class T>
+requires std::is_enum_v<T>
+inline constexpr std::string_view kEncoding<T> = kEncoding<std::underlying_type_t<T>>;
 template <>
 inline constexpr std::string_view kEncoding<void> = "v";
 template <>
@@ -23,7 +28,17 @@ inline constexpr std::string_view kEncoding<int> = "i";
 template <>
 inline constexpr std::string_view kEncoding<bool> = "B";
 template <>
+inline constexpr std::string_view kEncoding<std::int64_t> = "q";
+template <>
+inline constexpr std::string_view kEncoding<std::uint64_t> = "Q";
+template <>
+inline constexpr std::string_view kEncoding<double> = "d";
+template <>
+inline constexpr std::string_view kEncoding<SEL> = ":";
+template <>
 inline constexpr std::string_view kEncoding<CGSize> = "{CGSize=dd}";
+template <>
+inline constexpr std::string_view kEncoding<CGRect> = "{CGRect={CGPoint=dd}{CGSize=dd}}";
 
 /// The encoding of a block's type, such as "v@?B@" with a zero at its end: result, the block itself,
 /// parameters.

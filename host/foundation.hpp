@@ -61,6 +61,15 @@ class NSNumber : public HostClass<"NSNumber"> {
   static NSNumber from(NSUInteger value);
 };
 
+class NSValue : public HostClass<"NSValue"> {
+ public:
+  using HostClass::HostClass;
+  /// For a log: what a pointer leads to need not be an object.
+  static NSValue ofPointer(const void* pointer) {
+    return sendToClass<"valueWithPointer:", NSValue(const void*)>(hostClass(), pointer);
+  }
+};
+
 /// What a value that came from a file or a message says as a number or a switch; nothing when it is no value
 /// of that kind. Numbers and strings both are.
 std::optional<int> intValue(Object value);

@@ -55,6 +55,19 @@ namespace hook_details {
 
 enum class MethodOf { instance, type };
 
+/// Whether a method with that result and these parameters has that type encoding.
+template <class Result, class... Parameters>
+consteval bool hasEncoding(std::string_view encoding) {
+  const auto take = [&encoding](std::string_view part) {
+    if (part.empty() || !encoding.starts_with(part)) return false;
+    encoding.remove_prefix(part.size());
+    return true;
+  };
+  constexpr std::string_view kReceiverAndSelector = "@:";
+  return take(kEncoding<Result>) && take(kReceiverAndSelector) && (take(kEncoding<Parameters>) && ...) &&
+         encoding.empty();
+}
+
 void replaceMethod(const HookRow& row, MethodOf owner, IMP implementation, IMP* replaced);
 void addMethod(const HookRow& row, IMP implementation);
 
@@ -81,6 +94,12 @@ struct Replacement<Function, Result (*)(Receiver, Replaced<Result(Parameters...)
   static void install(const HookRow& row) {
     replaceMethod(row, Owner, reinterpret_cast<IMP>(&call), &slot);
   }
+
+  template <MethodOf Owner>
+  static consteval HookRow row(const char* className, const char* selector, std::string_view encoding) {
+    if (!hasEncoding<Result, Parameters...>(encoding)) throw "the function has another type encoding";
+    return {className, selector, nullptr, &install<Owner>};
+  }
 };
 
 template <auto Function, class Type = decltype(Function)>
@@ -98,48 +117,56 @@ struct Addition<Function, Result (*)(Receiver, Parameters...)> {
 
   static void install(const HookRow& row) { addMethod(row, reinterpret_cast<IMP>(&call)); }
 
-  /// The parameters must be as encoded. A method told to answer nothing may answer an object: some callers
-  /// take one from whatever they call.
-  static consteval bool hasEncoding(std::string_view encoding) {
+  /// A method told to answer nothing may answer an object: some callers take one from whatever they call.
+  static consteval HookRow row(const char* className, const char* selector, const char* encoding) {
     static_assert(std::is_void_v<Result> || std::is_base_of_v<Object, Result>);
-    constexpr std::string_view start = "v@:";
-    if (!encoding.starts_with(start)) return false;
-    encoding.remove_prefix(start.size());
-    [[maybe_unused]] const auto take = [&encoding](std::string_view parameter) {
-      if (parameter.empty() || !encoding.starts_with(parameter)) return false;
-      encoding.remove_prefix(parameter.size());
-      return true;
-    };
-    return (take(kEncoding<Parameters>) && ...) && encoding.empty();
+    if (!hasEncoding<void, Parameters...>(encoding)) throw "the function has another type encoding";
+    return {className, selector, encoding, &install};
+  }
+};
+
+/// What leaves a method as it is. Each method has its own, and so its own slot.
+template <Name ClassName, Name Selector, class Signature>
+struct HostsAnswer;
+
+template <Name ClassName, Name Selector, class Result, class... Parameters>
+struct HostsAnswer<ClassName, Selector, Result(Parameters...)> {
+  static Result handOn(Object, Replaced<Result(Parameters...)> host, Parameters... arguments) {
+    return host(arguments...);
   }
 };
 
 }  // namespace hook_details
 
-/// A row that puts `Function` in the place of an instance method. The function takes the receiver, what it
-/// replaces, and the method's arguments; its C++ types are the method's type.
+/// A row that puts `Function` in the place of an instance method of that type encoding. The function takes
+/// the receiver, what it replaces, and the method's arguments; one of other types does not compile. That the
+/// host's own method is of that encoding is for whoever writes the row to know.
 template <auto Function>
-consteval HookRow replace(const char* className, const char* selector) {
-  using hook_details::MethodOf;
-  return {className, selector, nullptr,
-          &hook_details::Replacement<Function>::template install<MethodOf::instance>};
+consteval HookRow replace(const char* className, const char* selector, std::string_view encoding) {
+  using namespace hook_details;
+  return Replacement<Function>::template row<MethodOf::instance>(className, selector, encoding);
 }
 
 /// The same for a class method.
 template <auto Function>
-consteval HookRow replaceClassMethod(const char* className, const char* selector) {
-  using hook_details::MethodOf;
-  return {className, selector, nullptr,
-          &hook_details::Replacement<Function>::template install<MethodOf::type>};
+consteval HookRow replaceClassMethod(const char* className, const char* selector, std::string_view encoding) {
+  using namespace hook_details;
+  return Replacement<Function>::template row<MethodOf::type>(className, selector, encoding);
+}
+
+/// A row for a method that is taken over and answers as the host does: its place in the order of hooks is
+/// kept for what may come to be decided there.
+template <Name ClassName, Name Selector, class Signature>
+consteval HookRow handOn(std::string_view encoding) {
+  return replace<&hook_details::HostsAnswer<ClassName, Selector, Signature>::handOn>(ClassName.text,
+                                                                                     Selector.text, encoding);
 }
 
 /// A row that gives the class a new method of that type encoding. Does not compile when the function takes
 /// other arguments than the encoding tells.
 template <auto Function>
 consteval HookRow add(const char* className, const char* selector, const char* encoding) {
-  if (!hook_details::Addition<Function>::hasEncoding(encoding))
-    throw "the function has another type encoding";
-  return {className, selector, encoding, &hook_details::Addition<Function>::install};
+  return hook_details::Addition<Function>::row(className, selector, encoding);
 }
 
 /// The host's method that `Function` replaced, for another hook, bound to a receiver of the class in its row,

@@ -40,6 +40,23 @@ class PUAlbumListCellContentView : public HostClass<"PUAlbumListCellContentView"
   UILabel subtitleLabel() const { return trySend<"_subtitleLabel", UILabel()>(); }
 };
 
+/// Gives tiles their sizes, texts included, and the stacks of photos on them theirs.
+class PUAlbumListCellContentViewHelper : public HostClass<"PUAlbumListCellContentViewHelper"> {
+ public:
+  using HostClass::HostClass;
+};
+class PUAlbumListCellContentViewHelperConfiguration
+    : public HostClass<"PUAlbumListCellContentViewHelperConfiguration"> {
+ public:
+  using HostClass::HostClass;
+};
+
+/// A button of PhotosUI's own make, as the one on a tile that deletes its album.
+class PXUIButton : public HostClass<"PXUIButton", UIView> {
+ public:
+  using HostClass::HostClass;
+};
+
 /// What a collection view's cell, or a gadget of the strip, shows of an album; nil when it shows something
 /// else.
 inline PUAlbumListCellContentView albumTile(Object cellOrGadget) {
@@ -84,6 +101,8 @@ class PUAlbumListViewController : public HostClass<"PUAlbumListViewController", 
     return trySend<"isPlaceholderAtIndexPath:", bool(NSIndexPath)>(path);
   }
   UICollectionView collectionView() const { return trySend<"collectionView", UICollectionView()>(); }
+  /// Shows what the library holds now.
+  void reloadContentView() const { trySend<"reloadContentView", void()>(); }
   /// The line above the albums while photos are being picked into one of them; otherwise nil.
   UIView pickerBannerView() const { return trySend<"_pickerBannerView", UIView()>(); }
   /// What its "Done" does.
@@ -158,6 +177,13 @@ class PXGadget : public Object {
   }
 };
 
+/// The first screen of the Albums tab.
+class PUAlbumsGadgetViewController : public HostClass<"PUAlbumsGadgetViewController", UIViewController> {
+ public:
+  using HostClass::HostClass;
+  UICollectionView collectionView() const { return trySend<"collectionView", UICollectionView()>(); }
+};
+
 /// What the Albums tab is made of.
 class PXGadgetDataSource : public HostClass<"PXGadgetDataSource"> {
  public:
@@ -168,6 +194,27 @@ class PXGadgetDataSource : public HostClass<"PXGadgetDataSource"> {
 class PXPhotoKitCollectionsDataSourceManager : public HostClass<"PXPhotoKitCollectionsDataSourceManager"> {
  public:
   using HostClass::HostClass;
+};
+
+/// What the viewer of single photos knows of the one that it shows.
+class PUAssetViewModel : public HostClass<"PUAssetViewModel"> {
+ public:
+  using HostClass::HostClass;
+};
+
+/// How the viewer of single photos behaves.
+class PUOneUpSettings : public HostClass<"PUOneUpSettings"> {
+ public:
+  using HostClass::HostClass;
+};
+
+class PUNavigationController : public HostClass<"PUNavigationController", UINavigationController> {
+ public:
+  using HostClass::HostClass;
+  /// Whose items its toolbar shows; may be nil.
+  UIViewController currentToolbarViewController() const {
+    return trySend<"_currentToolbarViewController", UIViewController()>();
+  }
 };
 
 class PUTabbedLibraryViewController : public HostClass<"PUTabbedLibraryViewController", UIViewController> {

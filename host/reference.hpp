@@ -6,12 +6,21 @@
 
 namespace velvault12 {
 
+namespace reference_details {
+
+// Not inlined: a reference is taken and given up in more places than anything else happens.
+void retain(id object);
+void release(id object);
+void autorelease(id object);
+
+}  // namespace reference_details
+
 /// Owns one reference to a host object: retains it while the Ref lives. Empty for nil.
 template <class View>
 class Ref {
  public:
   Ref() = default;
-  explicit Ref(View object) : object_(object) { object_.template send<"retain", Object()>(); }
+  explicit Ref(View object) : object_(object) { reference_details::retain(object_.get()); }
   Ref(const Ref& other) : Ref(other.object_) {}
   Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, View())) {}
   Ref& operator=(Ref other) noexcept {
@@ -19,7 +28,7 @@ class Ref {
     return *this;
   }
   // Through a local: the release may run the host's code, and that may come back to this very Ref.
-  ~Ref() { std::exchange(object_, View()).template send<"release", void()>(); }
+  ~Ref() { reference_details::release(std::exchange(object_, View()).get()); }
 
   /// Takes over a reference that the caller already owns (what `init`, `copy` and `new` answer).
   static Ref adopt(View owned) {
@@ -35,7 +44,7 @@ class Ref {
   /// Gives the reference up to the current autorelease pool: for what a hook answers to its host.
   View autorelease() && {
     const View object = std::exchange(object_, View());
-    object.template send<"autorelease", Object()>();
+    reference_details::autorelease(object.get());
     return object;
   }
 

@@ -181,7 +181,7 @@ class Object {
 
   template <Name Selector>
   bool responds() const {
-    return send<"respondsToSelector:", bool(SEL)>(selector<Selector>());
+    return respondsTo(selector<Selector>());
   }
 
   /// Whether it takes the message, its own methods aside also one that it hands on to another object.
@@ -190,7 +190,7 @@ class Object {
     return responds<Selector>() || send<"methodSignatureForSelector:", Object(SEL)>(selector<Selector>());
   }
 
-  bool isKindOf(Class type) const { return type != nullptr && send<"isKindOfClass:", bool(Class)>(type); }
+  bool isKindOf(Class type) const;
 
   /// The object seen as a `View`, or nil when it is of another class: for what came out of a file or a
   /// message.
@@ -221,6 +221,8 @@ class Object {
   objc_ivar* variableNamed() const {
     return class_getInstanceVariable(object_getClass(object_), Variable.text);
   }
+
+  bool respondsTo(SEL selector) const;
 
   id object_ = nullptr;
 };

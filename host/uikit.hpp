@@ -120,6 +120,8 @@ class UIView : public HostClass<"UIView"> {
   /// The controller that has it on screen; may be nil.
   inline UIViewController viewControllerForAncestor() const;
   void removeFromSuperview() const { send<"removeFromSuperview", void()>(); }
+  /// At once, and needed or not.
+  void layoutSubviews() const { send<"layoutSubviews", void()>(); }
   CALayer layer() const { return send<"layer", CALayer()>(); }
   /// Nil, or empty, without any.
   NSArray gestureRecognizers() const { return send<"gestureRecognizers", NSArray()>(); }
@@ -231,7 +233,12 @@ class UICollectionViewCell : public HostClass<"UICollectionViewCell", UIView> {
   UIView contentView() const { return send<"contentView", UIView()>(); }
 };
 
-class UICollectionView : public HostClass<"UICollectionView", UIView> {
+class UIScrollView : public HostClass<"UIScrollView", UIView> {
+ public:
+  using HostClass::HostClass;
+};
+
+class UICollectionView : public HostClass<"UICollectionView", UIScrollView> {
  public:
   using HostClass::HostClass;
   /// Whether there is an item at that place: a path that was good before the view was loaded anew may lead to
@@ -244,6 +251,13 @@ class UICollectionView : public HostClass<"UICollectionView", UIView> {
   UICollectionViewCell cellForItemAtIndexPath(NSIndexPath path) const {
     return send<"cellForItemAtIndexPath:", UICollectionViewCell(NSIndexPath)>(path);
   }
+};
+
+class UITabBar : public HostClass<"UITabBar", UIView> {
+ public:
+  using HostClass::HostClass;
+  /// May be nil.
+  NSArray items() const { return send<"items", NSArray()>(); }
 };
 
 /// A button in a bar. Its target is not retained.
@@ -299,6 +313,7 @@ inline UIViewController UIView::viewControllerForAncestor() const {
 class UINavigationController : public HostClass<"UINavigationController", UIViewController> {
  public:
   using HostClass::HostClass;
+  UIView navigationBar() const { return send<"navigationBar", UIView()>(); }
   void popToRoot(bool animated) const { send<"popToRootViewControllerAnimated:", NSArray(bool)>(animated); }
 };
 

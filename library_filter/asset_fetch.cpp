@@ -65,8 +65,6 @@ NSUInteger estimatedAssetCount(PHAssetCollection album, Replaced<NSUInteger()> h
   return fetch(decide(album, locked), hostsFetch(), album, PHFetchOptions()).count();
 }
 
-NSArray fetchedObjects(PHFetchResult<Object>, Replaced<NSArray()> host) { return host(); }
-
 PHFetchResult<PHAsset> fetchFromHost(PHAssetCollection album) {
   return fetch(AssetFetch::withHidden, hostsFetch(), album, PHFetchOptions());
 }

@@ -29,9 +29,6 @@ PHFetchResult<PHAssetCollection> fetchAssetCollections(
 /// Outside Photos 0 for a locked album, and for one that the host takes for empty what can be fetched of it.
 NSUInteger estimatedAssetCount(PHAssetCollection album, Replaced<NSUInteger()> host);
 
-/// The host's answer.
-NSArray fetchedObjects(PHFetchResult<Object> result, Replaced<NSArray()> host);
-
 // For other hooks.
 
 /// All assets of the album, hidden ones as well, asked of the host's own method, so that nothing is refused.

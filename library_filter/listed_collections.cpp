@@ -30,11 +30,6 @@ void addOtherAlbums(NSMutableArray shown, NSArray listed, const Settings& settin
   }
 }
 
-bool beginsAtEnd() {
-  const auto chosen = settings();
-  return chosen->enabled && chosen->startAtBottom;
-}
-
 }  // namespace
 
 NSArray listedCollections(PHCollectionList, Replaced<NSArray()> host) {
@@ -53,8 +48,12 @@ NSArray listedCollections(PHCollectionList, Replaced<NSArray()> host) {
   return std::move(shown).autorelease();
 }
 
-bool startsAtEnd(PHAssetCollection, Replaced<bool()> host) { return beginsAtEnd() || host(); }
+bool startsAtEnd(PHAssetCollection, Replaced<bool()> host) {
+  return isChosen(&Settings::startAtBottom) || host();
+}
 
-bool keyAssetsAtEnd(PHAssetCollection, Replaced<bool()> host) { return beginsAtEnd() || host(); }
+bool keyAssetsAtEnd(PHAssetCollection, Replaced<bool()> host) {
+  return isChosen(&Settings::startAtBottom) || host();
+}
 
 }  // namespace velvault12

@@ -26,7 +26,7 @@ void makeStateFolder() {
   loadSettings();
   observeDarwinNotification<loadSettings>(kReloadNotification, SuspensionBehavior::deliverImmediately);
   const std::string host = NSBundle::mainBundle().bundleIdentifier().utf8();
-  const HostPlan plan = planForHost(host, settings()->enabled);
+  const HostPlan plan = planForHost(host, isEnabled());
   if (plan.readCaptureAlbum) captureAlbum().readAtStart();
   if (plan.makeStateFolder) makeStateFolder();
   installHooks(hooksOf(plan.group));

@@ -44,6 +44,13 @@ class SettingsInForce {
 
 std::shared_ptr<const Settings> settings() { return processWide<SettingsInForce>().get(); }
 
+bool isEnabled() { return settings()->enabled; }
+
+bool isChosen(bool Settings::*choice) {
+  const auto chosen = settings();
+  return chosen->enabled && (*chosen).*choice;
+}
+
 void loadSettings() {
   auto read = std::make_shared<Settings>(*settings());
   applyPreferences(*read, readPreferences());

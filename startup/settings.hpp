@@ -11,6 +11,10 @@ namespace velvault12 {
 /// photos on threads of their own.
 std::shared_ptr<const Settings> settings();
 
+/// Whether the library is switched on, and for the second that choice as well. Any thread.
+bool isEnabled();
+bool isChosen(bool Settings::*choice);
+
 /// Reads the preferences file afresh. A file that is missing or no dictionary gives every setting its
 /// default. Main thread only.
 void loadSettings();

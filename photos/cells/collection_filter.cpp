@@ -63,8 +63,7 @@ bool containsAnyAssets(PXPhotoKitCollectionsDataSourceManager, Replaced<bool(PHC
 
 bool canReorder(PXPhotoKitCollectionsDataSourceManager, Replaced<bool(PHCollection)> host,
                 PHCollection collection) {
-  const auto chosen = settings();
-  return (chosen->enabled && chosen->reorderStock) || host(collection);
+  return isChosen(&Settings::reorderStock) || host(collection);
 }
 
 }  // namespace velvault12

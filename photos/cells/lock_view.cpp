@@ -29,7 +29,7 @@ void defineClass() {
                          .method<setPhotoView>(selector<"setPhotoView:">(), "v@:@")
                          .registered();
   // As a hook of its own, which calls what it inherits.
-  const HookRow row = replace<deallocate>("VVLockView", "dealloc");
+  const HookRow row = replace<deallocate>("VVLockView", "dealloc", "v@:");
   if (made != nullptr) installHooks({&row, 1});
 }
 

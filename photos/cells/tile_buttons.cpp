@@ -62,13 +62,24 @@ void layOutButton(PUAlbumListCellContentView tile, TileButton kind) {
 void tileSetEditing(PUAlbumListCellContentView tile, Replaced<void(bool, bool)> host, bool editing,
                     bool animated) {
   host(editing, animated);
-  if (editing && settings()->enabled) createButtons(tile);
+  if (editing && isEnabled()) createButtons(tile);
 }
 
 void createButtons(PUAlbumListCellContentView tile) {
   tile.bringSubviewToFront(tile.deleteButton());
   createButton(tile, TileButton::move);
   createButton(tile, TileButton::lock);
+}
+
+void buttonLoaded(PXUIButton button, Replaced<void()> host) {
+  host();
+  button.layoutSubviews();
+}
+
+void buttonLayout(PXUIButton button, Replaced<void()> host) {
+  host();
+  const auto tile = button.superview().as<PUAlbumListCellContentView>();
+  if (tile && isEnabled()) createButtons(tile);
 }
 
 void removeButtons(PUAlbumListCellContentView tile) {

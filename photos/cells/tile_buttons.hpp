@@ -15,6 +15,14 @@ void tileSetEditing(PUAlbumListCellContentView tile, Replaced<void(bool, bool)> 
 /// `createButtons`: they slide in from the left. Those that are there stay.
 void createButtons(PUAlbumListCellContentView tile);
 
+// A tile's own button comes when its list begins to be edited, on some versions after the tile was told: once
+// it is laid out, the two others are there as well.
+
+/// `layoutSubviews` of every such button.
+void buttonLayout(PXUIButton button, Replaced<void()> host);
+/// `viewidLoad`, as it is spelled: lays the button out.
+void buttonLoaded(PXUIButton button, Replaced<void()> host);
+
 /// Puts them in their places; takes them away from a tile that is no longer to be edited.
 void layOutButtons(PUAlbumListCellContentView tile);
 void removeButtons(PUAlbumListCellContentView tile);

@@ -7,7 +7,6 @@
 #include "photos/list/album_lock.hpp"
 #include "photos/list/long_press.hpp"
 #include "photos/list/tile_measures.hpp"
-#include "photos/list/tile_measures_rules.hpp"
 #include "startup/settings.hpp"
 #include "startup/shared_files.hpp"
 
@@ -83,7 +82,6 @@ void layOutOverlay(PUAlbumListCellContentView tile, VVLockView overlay, UIView s
 void showLock(PUAlbumListCellContentView tile, bool isLocked) {
   const UIView stack = tile.stackView();
   int& side = tileMeasures().overlaySide;
-  if (side == 0) side = albumSize(UIScreen::mainScreen().bounds().size.width);
   side = overlaySide(frameOf(stack), side);
   const auto overlay = tile.subviewWithTag<VVLockView>(kOverlayTag);
   if (!isLocked) {
@@ -105,7 +103,7 @@ void setFontSize(Text text, bool isShown) {
 
 void layOutTile(PUAlbumListCellContentView tile, Replaced<void()> host) {
   host();
-  if (!settings()->enabled) {
+  if (!isEnabled()) {
     showLock(tile, false);
     removeButtons(tile);
     return;
@@ -123,7 +121,7 @@ void layOutTile(PUAlbumListCellContentView tile, Replaced<void()> host) {
 }
 
 NSString tileTitle(PUAlbumListCellContentView, Replaced<NSString()> host) {
-  return settings()->enabled && !settings()->layoutShowTitle ? NSString::from("") : host();
+  return isEnabled() && !settings()->layoutShowTitle ? NSString::from("") : host();
 }
 
 }  // namespace velvault12

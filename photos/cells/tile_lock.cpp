@@ -65,17 +65,10 @@ void askToMoveAlbum(PUAlbumListCellContentView tile) {
 
 void moveAlbum(PUAlbumListCellContentView tile) {
   // The title and not the tile, which may show another album by then.
-  const Ref<NSString> title(tile.title());
-  if (title->utf8().empty()) return;
-  const auto sheet =
-      UIAlertController::make("Move Album", "Return album photos to the camera roll or move them out?",
-                              UIAlertController::Style::actionSheet);
-  sheet.addAction("Return to camera roll",
-                  [title] { moveAlbumPhotos(title.get(), AlbumMove::returnToCameraRoll); });
-  sheet.addAction("Move out of camera roll", [title] { moveAlbumPhotos(title.get(), AlbumMove::moveOut); });
-  sheet.addCancelAction();
-  sheet.setPopoverSource(tile);
-  tile.viewControllerForAncestor().present(sheet, true);
+  const NSString title = tile.title();
+  if (title.utf8().empty()) return;
+  askWhereAlbumGoes(title, "Move Album", "Return album photos to the camera roll or move them out?",
+                    tile.viewControllerForAncestor(), tile);
 }
 
 void tileUnlockAlbum(PUAlbumListCellContentView tile, int method, NSString album) {

@@ -72,7 +72,7 @@ void showPhotosOnlyIn(NSArray albums, PUAlbumListViewController list, PUAlbumLis
 }  // namespace
 
 bool skipDeleteConfirmation(PUDeletePhotosActionController, Replaced<bool()> host) {
-  return (settings()->enabled && settings()->skipDelete) || host();
+  return isChosen(&Settings::skipDelete) || host();
 }
 
 void deleteAlbum(PUAlbumListViewController list, Replaced<void(PUAlbumListCellContentView, Object)> host,

@@ -4,6 +4,7 @@
 
 #include "host/dispatch.hpp"
 #include "host/photos_ui.hpp"
+#include "host/reference.hpp"
 #include "photos/list/notice_banner.hpp"
 
 namespace velvault12 {
@@ -36,7 +37,21 @@ void setAllHidden(bool hidden, PHAssetCollection album, const Notices& notices) 
 
 void moveAlbumPhotos(NSString title, AlbumMove move) {
   const bool hides = move == AlbumMove::moveOut;
-  setAllHidden(hides, PHAssetCollection::userAlbums(title).firstObject(), hides ? kMoving : kReturning);
+  // A moment has no title, and a predicate raises without its argument.
+  const auto album = title ? PHAssetCollection::userAlbums(title).firstObject() : PHAssetCollection();
+  setAllHidden(hides, album, hides ? kMoving : kReturning);
+}
+
+void askWhereAlbumGoes(NSString album, std::string_view title, std::string_view message,
+                       UIViewController presenter, UIView source) {
+  const auto sheet = UIAlertController::make(title, message, UIAlertController::Style::actionSheet);
+  const Ref<NSString> kept(album);
+  sheet.addAction("Return to camera roll",
+                  [kept] { moveAlbumPhotos(kept.get(), AlbumMove::returnToCameraRoll); });
+  sheet.addAction("Move out of camera roll", [kept] { moveAlbumPhotos(kept.get(), AlbumMove::moveOut); });
+  sheet.addCancelAction();
+  sheet.setPopoverSource(source);
+  presenter.present(sheet, true);
 }
 
 void returnAllPhotos() {

@@ -59,7 +59,7 @@ void listSetEditing(PUAlbumListViewController list, Replaced<void(bool, bool)> h
 void updateBarButtons(PUAlbumListViewController list) {
   const UINavigationItem item = list.navigationItem();
   const UINavigationController navigation = list.navigationController();
-  const bool isOn = settings()->enabled;
+  const bool isOn = isEnabled();
   const bool movesAlbums = isOn && list.isEditing() && navigation.responds<"syncAlbums">();
   const bool returnsPhotos = isOn && list.pickerBannerView() && controllerRegistry().albumView;
   setButton(item, kMoveBarButtonTag, movesAlbums, [&] { return moveButton(navigation); });

@@ -48,7 +48,7 @@ void handleLongPress(UIViewController controller, UIGestureRecognizer recognizer
 }
 
 void makePressable(PUAlbumListCellContentView tile, UIViewController target) {
-  if (!settings()->enabled) return;
+  if (!isEnabled()) return;
   const auto recognizer =
       makeRecognizer<UILongPressGestureRecognizer>(target, selector<"handleLongPress:">());
   recognizer->setMinimumPressDuration(kPressSeconds);

@@ -26,7 +26,7 @@ UIView sourceAt(PUAlbumListViewController list, NSIndexPath path) {
 }  // namespace
 
 void chooseAlbum(PUAlbumListViewController list, NSIndexPath path, Replaced<void(NSIndexPath)> host) {
-  if (!settings()->enabled || !list.pickerBannerView() || !takesPhotos(list, path)) {
+  if (!isEnabled() || !list.pickerBannerView() || !takesPhotos(list, path)) {
     host(path);
     return;
   }

@@ -7,7 +7,7 @@
 namespace velvault12 {
 
 void appEnteredBackground(PhotosApplication app, Replaced<void(UIApplication)> host, UIApplication argument) {
-  if (settings()->enabled) returnToMainView(app);
+  if (isEnabled()) returnToMainView(app);
   host(argument);
 }
 

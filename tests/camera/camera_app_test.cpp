@@ -68,10 +68,11 @@ class CameraApp : public PhoneTest {
     become(device::kCamera);
     // Replaced before the library comes, so that this is what the library calls as the host's own.
     const HookRow rows[] = {
-        replace<hostCaptured>("CAMCaptureEngine", "captureOutput:didFinishCaptureForResolvedSettings:error:"),
-        replaceClassMethod<schedule>("NSTimer",
-                                     "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:"),
-        replace<sendMessage>("CPDistributedMessagingCenter", "sendMessageName:userInfo:")};
+        replace<hostCaptured>("CAMCaptureEngine",
+                              "captureOutput:didFinishCaptureForResolvedSettings:error:", "v@:@@@"),
+        replaceClassMethod<schedule>(
+            "NSTimer", "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:", "@@:d@:@B"),
+        replace<sendMessage>("CPDistributedMessagingCenter", "sendMessageName:userInfo:", "B@:@@")};
     installHooks(rows);
     device::loadInjectedLibraries();
     device::startApp(device::kCamera);

@@ -110,13 +110,13 @@ TEST_F(Edge, HooksReachTheNamedMethodAloneAndCallThrough) {
   const Object info = processInfo();
   ASSERT_TRUE(info);
 
-  const HookRow rows[] = {replace<hooked>("TestDerived", "testAnswer"),
-                          replace<hookedTwice>("TestDerived", "testAnswer"),
-                          replace<hooked>("TestDerived", "testMissing"),
-                          replace<hooked>("TestMissing", "testAnswer"),
+  const HookRow rows[] = {replace<hooked>("TestDerived", "testAnswer", "@@:"),
+                          replace<hookedTwice>("TestDerived", "testAnswer", "@@:"),
+                          replace<hooked>("TestDerived", "testMissing", "@@:"),
+                          replace<hooked>("TestMissing", "testAnswer", "@@:"),
                           add<added>("TestMissing", "testAdded", "v@:"),
-                          replaceClassMethod<countedProcessInfo>("NSProcessInfo", "processInfo"),
-                          replaceClassMethod<countedProcessInfo>("NSProcessInfo", "arguments")};
+                          replaceClassMethod<countedProcessInfo>("NSProcessInfo", "processInfo", "@@:"),
+                          replaceClassMethod<countedProcessInfo>("NSProcessInfo", "arguments", "@@:")};
   installHooks(rows);
   EXPECT_EQ(answerOf(derived), "base, hooked, twice");
   EXPECT_EQ(answerOf(base), "base");

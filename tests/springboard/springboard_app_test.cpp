@@ -38,8 +38,8 @@ class SpringBoardApp : public PhoneTest {
   SpringBoardApp() {
     become(device::kSpringBoard);
     // Replaced before the library comes, so that these are what the library calls as the host's own.
-    const HookRow rows[] = {replace<ownLaunch>("SpringBoard", "applicationDidFinishLaunching:"),
-                            replace<countWrites>("NSDictionary", "writeToFile:atomically:")};
+    const HookRow rows[] = {replace<ownLaunch>("SpringBoard", "applicationDidFinishLaunching:", "v@:@"),
+                            replace<countWrites>("NSDictionary", "writeToFile:atomically:", "B@:@B")};
     installHooks(rows);
     device::loadInjectedLibraries();
     device::startApp(device::kSpringBoard);

@@ -6,7 +6,10 @@
 
 #include <regex>
 #include <sstream>
+#include <tuple>
 
+#include "device/frameworks/installed_hooks.hpp"
+#include "host/hook.hpp"
 #include "tests/device/frameworks/plain_phone.hpp"
 #include "tests/photos/photos_app.hpp"
 
@@ -15,6 +18,7 @@ namespace velvault12 {
 extern "C" {
 Class class_getSuperclass(Class type);
 const char* method_getTypeEncoding(objc_method* method);
+void MSHookMessageEx(Class type, SEL selector, IMP implementation, IMP* replaced);
 }
 
 namespace {
@@ -28,7 +32,8 @@ PhotosApplication : PLPhotosApplication {
   applicationDidEnterBackground: v@:@   ~_tabbedLibraryViewController @@: }
 FBSystemApp : UIApplication {}
 SpringBoard : FBSystemApp { applicationDidFinishLaunching: v@:@ }
-PUTabbedLibraryViewController : UITabBarController { selectedNavigationController @@: }
+PUTabbedLibraryViewController : UITabBarController {
+  selectedNavigationController @@:   excludedContentModes @@: }
 UIViewController : UIResponder { toolbarItems @@: }
 UINavigationController : UIViewController {
   popToRootViewControllerAnimated: @@:B   toolbar @@:   setToolbarHidden:animated: v@:BB
@@ -45,7 +50,7 @@ UINavigationItem : NSObject {
   rightBarButtonItems @@:   setRightBarButtonItems: v@:@   rightBarButtonItem @@: }
 UIToolbar : UIView { items @@: }
 UIView : UIResponder { _viewControllerForAncestor @@: }
-UITabBar : UIView { layoutSubviews v@:   items @@:   -hidden }
+UITabBar : UIView { layoutSubviews v@:   items @@:   setHidden: v@:B   ~isHidden B@:   -hidden }
 PXUIButton : UIButton { ~layoutSubviews v@:   -viewidLoad }
 PXGadgetDataSource : PXSectionedDataSource { gadgets @@: }
 PXGadgetProvider : NSObject {}
@@ -64,6 +69,7 @@ PUHorizontalAlbumListGadget : PXHorizontalCollectionGadget {
 PUAlbumGadget : NSObject { albumListCellContentView @@:   title @@:   gadgetType Q@:   -provider }
 PUAlbumListCell : UICollectionViewCell { albumListCellContentView @@: }
 PUAlbumListCellContentViewHelper : NSObject { albumCellSize {CGSize=dd}@: }
+PUAlbumListCellContentViewHelperConfiguration : NSObject { stackSize {CGSize=dd}@: }
 PUAlbumListCellContentView : UIView {
   layoutSubviews v@:   setEditing:animated: v@:BB   title @@:   subtitle @@:   setSubtitle: v@:@
   stackView @@:   _deleteButton @@:   _titleTextField @@:   _subtitleLabel @@:
@@ -75,17 +81,27 @@ PUAlbumListViewController : UIViewController {
   _mainCollectionView @@:   _mainTableView @@:   _pickerBannerView @@:   collectionAtIndexPath: @@:@
   _preparedAlbumListCellContentViewAtIndexPath: @@:@   indexPathForAlbumListCellContentView: @@:@
   collectionView:canMoveItemAtIndexPath: B@:@@   isPlaceholderAtIndexPath: B@:@
-  ~pu_wantsTabBarVisible B@:   -alwaysHideTabBar   -scrollViewWillBeginDragging:   -titleForCollection:
-  -provider }
+  showPeople B@:   showPlaces B@:   ~pu_wantsTabBarVisible B@:   -alwaysHideTabBar
+  -scrollViewWillBeginDragging:   -titleForCollection:   -provider }
 PUAlbumsGadgetViewController : PXGadgetViewController {
   viewWillAppear: v@:B   ~collectionView @@:   _handleDoneButton: v@:@   -reloadContentView }
-PUPhotosGridViewController : UICollectionViewController { selectedAssets @@:   -assetCollection }
+UICollectionViewLayout : NSObject { -itemSize }
+PUSectionedGridLayout : UICollectionViewLayout { itemSize {CGSize=dd}@: }
+PUPhotosGridViewController : UICollectionViewController {
+  selectedAssets @@:   initiallyScrolledToBottom B@:   setInitiallyScrolledToBottom: v@:B
+  -assetCollection   -shouldShowSectionHeaders }
 PUPhotosAlbumViewController : PUPhotosGridViewController {
   setAssetCollection:fetchResultContainingAssetCollection:filterPredicate:existingFetchResults: v@:@@@@
   assetCollection @@:   ?setEditing:animated: v@:BB   ~pu_wantsTabBarVisible B@:   -_handleDoneButton:
-  ~selectedAssets @@:   ~_removeSelectedAssetsWithCompletion: v@:@? }
+  ~selectedAssets @@:   ~_removeSelectedAssetsWithCompletion: v@:@?   shouldShowSectionHeaders B@:
+  ~initiallyScrolledToBottom B@:   ~setInitiallyScrolledToBottom: v@:B }
 PUZoomableGridViewController : PUPhotosGridViewController {
   viewWillAppear: v@:B   -assetCollection   -_handleDoneButton:   -reloadContentView   ~selectedAssets @@: }
+PUOneUpViewController : UIViewController { -selectedAssets   -assetCollection }
+PUPhotoViewContentHelper : NSObject { imageContentFrame {CGRect={CGPoint=dd}{CGSize=dd}}@: }
+PUAssetViewModel : PUViewModel { wantsIrisBadgeVisible B@: }
+PUOneUpSettings : PXSettings {
+  +sharedInstance @@:   defaultMaximumZoomFactor d@:   setDefaultMaximumZoomFactor: v@:d }
 PUDeletePhotosActionController : NSObject { shouldSkipDeleteConfirmation B@: }
 PUAssetHidingHelper : NSObject {
   assets @@:   setAssets: v@:@   applyHiddenState:completionHandler: v@:B@? }
@@ -154,7 +170,7 @@ TEST(PhotosUIClasses, HaveTheMethodsOfAnIPhoneAndLackWhatItLacks) {
     EXPECT_EQ(class_getName(class_getSuperclass(type)), super);
     while (word.back() != '}' && table >> word && word != "}") checkMethod(type, word, table);
   }
-  EXPECT_EQ(classes, 53);
+  EXPECT_EQ(classes, 60);
 }
 
 class PhotosUI : public PlainPhone {
@@ -264,6 +280,8 @@ INSTANTIATE_TEST_SUITE_P(PhotosUI, Selection, ::testing::Values("Pets", "Photos"
 TEST_P(Selection, IsMadeByTouchingPhotosAndEndsAddedToAnAlbumOrCancelled) {
   me_.tap(GetParam());
   me_.tap(kFirst);
+  EXPECT_FALSE(me_.sees(kSelect)) << "it is shown alone";
+  me_.back();
   EXPECT_EQ(selected(), 0u);
   me_.tap(kSelect);
   EXPECT_EQ(me_.sees("Remove"), GetParam() == "Pets");
@@ -312,6 +330,165 @@ TEST_F(Selection, IsTakenOutOfItsAlbumOrDeletedOnceThatIsConfirmed) {
   me_.waitUntilGone(kFirstSelected);
   EXPECT_TRUE(me_.sees("Select") && !me_.sees(kFirst));
   EXPECT_EQ(library_.allAssets().front().identifier, second_);
+}
+
+TEST_F(PhotosUI, AnAlbumTellsTheDaysOfItsPhotosAboveThem) {
+  constexpr double kEndOfDay = 1'700'092'799, kDay = 86'400;
+  const auto pets = library_.addAlbum("Pets");
+  const auto first = library_.addAsset({.creationDate = kEndOfDay});
+  const auto last = library_.addAsset({.creationDate = kEndOfDay + kDay + 1});
+  for (const auto photo : {first, last}) library_.addToAlbum(photo, pets);
+  phone_.launchHere(device::kPhotos);
+  me_.tap("Pets");
+  EXPECT_TRUE(me_.sees("2023-11-15 \u2013 2023-11-17"));
+  EXPECT_NE(me_.screen().find("PUPhotosGridCell (1 45 92 92)"), std::string::npos) << me_.screen();
+  const auto withoutOne = [&](std::int64_t photo) {
+    library_.removeFromAlbum(photo, pets);
+    for (const std::string_view tab : {"Photos", "Albums"}) me_.tap(tab);
+    return me_.screen();
+  };
+  EXPECT_NE(withoutOne(last).find("UILabel \"2023-11-15\""), std::string::npos);
+  EXPECT_EQ(withoutOne(first).find("PUPhotosSectionHeaderView"), std::string::npos);
+  me_.tap("Photos");
+  EXPECT_EQ(me_.screen().find("PUPhotosSectionHeaderView"), std::string::npos);
+}
+
+TEST_F(PhotosUI, AGridOpensWhereItStartsAndStaysWhereItWasLeft) {
+  for (double second = 0; second < 60; ++second) library_.addAsset({.creationDate = second});
+  const std::string_view first = "Photo, 1970-01-01 00:00:00", last = "Photo, 1970-01-01 00:00:59";
+  const auto isAtEnd = [&] { return me_.sees(last) && !me_.sees(first); };
+  phone_.launchHere(device::kPhotos);
+  const auto camera = ask<"_cameraRoll", Object>(hostType<"PHAssetCollection">());
+  const auto day =
+      PHAssetCollection::fetch(PHAssetCollection::Type::moment, PHAssetCollection::Subtype::any, {});
+  for (const auto& [collection, isToldSo, opensAtEnd] : {std::tuple{camera, false, true},
+                                                         {day.firstObject(), true, true},
+                                                         {day.firstObject(), false, false}}) {
+    const auto grid = makeObject<PUPhotosAlbumViewController>();
+    ask<"setAssetCollection:">(grid.get(), collection);
+    ask<"setInitiallyScrolledToBottom:">(grid.get(), isToldSo);
+    ask<"pushViewController:animated:">(PhotosApp::navigation(), UIViewController(grid.get()), true);
+    EXPECT_EQ(isAtEnd(), opensAtEnd) << isToldSo;
+  }
+  me_.tap("Photos");
+  EXPECT_TRUE(isAtEnd());
+  me_.tap(first);
+  me_.back();
+  for (const std::string_view tab : {"Albums", "Photos"}) me_.tap(tab);
+  EXPECT_TRUE(me_.sees(first) && !me_.sees(last)) << "it was scrolled there";
+}
+
+bool wantsBadge(Object, Replaced<bool()>) { return true; }
+
+TEST_F(PhotosUI, APhotoIsShownAsLargeAsItFitsAndZoomed) {
+  const std::string_view plain = "Photo, 1970-01-01 00:00:01", live = "Photo, 1970-01-01 00:00:02";
+  library_.addAsset({.creationDate = 1});
+  library_.addAsset({.creationDate = 2, .smartSubtype = 213});
+  phone_.launchHere(device::kPhotos);
+  me_.tap("Photos");
+  me_.tap(live);
+  EXPECT_FALSE(me_.sees("LIVE") || me_.sees(plain));
+  const auto liesAt = [&](std::string_view frame) {
+    return me_.picture().find("00:00:02\" data-frame=\"" + std::string(frame)) != std::string::npos;
+  };
+  EXPECT_TRUE(liesAt("0 158.5 375 500"));
+  for (int again = 0; again < 2; ++again) {
+    me_.zoomIn(live);
+    EXPECT_TRUE(liesAt("-937.5 -1091.5 2250 3000")) << "around its middle, " << again;
+  }
+  me_.back();
+  const HookRow row[] = {replace<wantsBadge>("PUAssetViewModel", "wantsIrisBadgeVisible", "B@:")};
+  installHooks(row);
+  for (const auto photo : {live, plain}) {
+    me_.tap(photo);
+    EXPECT_EQ(me_.sees("LIVE"), photo == live);
+    me_.back();
+  }
+}
+
+/// Puts an answer in the place of a method that takes no arguments.
+template <class Result>
+void answerInstead(const char* className, const char* selector, Result (*answer)(id, SEL)) {
+  MSHookMessageEx(objc_getClass(className), sel_registerName(selector), reinterpret_cast<IMP>(answer), {});
+}
+
+TEST_F(PhotosUI, TabsAreLeftOutByTheirContentModesWhichAreNumbers) {
+  static const auto modes = makeObject<NSMutableArray>();
+  for (const int mode : {10, 11, 13}) modes->addObject(NSNumber::from(mode));
+  answerInstead<id>("PUTabbedLibraryViewController", "excludedContentModes",
+                    [](id, SEL) { return modes.get().get(); });
+  phone_.launchHere(device::kPhotos);
+  library_.addCollection({.title = "Family", .subtype = 101});
+  for (const std::string_view text : {"Photos", "Shared", "Family"}) me_.tap(text);
+  EXPECT_FALSE(me_.sees("Memories") || me_.sees("Albums"));
+  modes->addObject(NSString::from("0"));
+  EXPECT_TRUE(raises([] { makeObject<PUTabbedLibraryViewController>(); }));
+}
+
+TEST_F(PhotosUI, TheTabBarComesAndGoesWithTheControllersOnTop) {
+  library_.addAlbum("Pets");
+  answerInstead<bool>("PUPhotosAlbumViewController", "pu_wantsTabBarVisible", [](id, SEL) { return false; });
+  phone_.launchHere(device::kPhotos);
+  const auto tab = PhotosApp::navigation();
+  const auto tabs = ask<"parentViewController", Object>(tab);
+  const UIView content = ask<"view", UIView>(tab), bar = ask<"tabBar", UIView>(tabs);
+  const auto height = [&] { return me_.screen().empty() ? 0 : content.frame().size.height; };
+  EXPECT_EQ(height(), 729);
+  me_.tap("Pets");
+  EXPECT_EQ(height(), 812);
+  me_.back();
+  EXPECT_EQ(height(), 729);
+  bar.setHidden(true);
+  EXPECT_EQ(height(), 812);
+  ask<"setSelectedIndex:">(tabs, NSUInteger(0));
+  EXPECT_TRUE(me_.sees("Memories"));
+  answerInstead<void>("UITabBar", "layoutSubviews", [](id self, SEL) { UIView(self).setHidden(true); });
+  bar.setHidden(true);
+  ask<"setSelectedIndex:">(tabs, NSUInteger(3));
+  EXPECT_EQ(height(), 812) << "shown, it is laid out";
+  EXPECT_FALSE((ask<"_isLayoutScheduled", bool>(UIApplication::sharedApplication())));
+}
+
+TEST_F(PhotosUI, TilesFollowBothOfTheirSizesWheneverTheyAppear) {
+  library_.addAlbum("Pets");
+  phone_.launchHere(device::kPhotos);
+  const auto shows = [&](std::initializer_list<const char*> lines) {
+    const std::string screen = me_.screen();
+    for (const char* const line : lines) EXPECT_NE(screen.find(line), std::string::npos) << line << screen;
+  };
+  me_.tap("See All");
+  answerInstead(
+      "PUAlbumListCellContentViewHelperConfiguration", "stackSize", +[](id, SEL) {
+        return CGSize{100, 120};
+      });
+  EXPECT_EQ(device::installedHooks().back().encoding, "{CGSize=dd}@:");
+  for (const std::string_view tab : {"Photos", "Albums"}) me_.tap(tab);
+  shows({"(16 16 100 164)", "PUStackView (0 0 100 120)", "\"Pets\" (0 124 100 20)"});
+  answerInstead(
+      "PUAlbumListCellContentViewHelper", "albumCellSize", +[](id, SEL) {
+        return CGSize{200, 300};
+      });
+  me_.back();
+  shows({"(0 0 375 376)", "(16 16 200 300)", "PUStackView (0 0 100 120)", "\"Pets\" (0 124 200 20)"});
+}
+
+TEST_F(PhotosUI, TheTopLevelsListEndsWithPeopleAndPlacesUnlessTheyAreEmpty) {
+  library_.addFolder("Trips");
+  library_.addAsset({.creationDate = 1, .smartSubtype = 200});
+  phone_.launchHere(device::kPhotos);
+  me_.tap("See All");
+  EXPECT_EQ(PhotosApp::albumList().collectionAtIndexPath(pathTo(1)).localizedTitle().utf8(), "People");
+  EXPECT_FALSE(me_.sees("Places"));
+  library_.addAsset({.creationDate = 2, .smartSubtype = 1000000203});
+  answerInstead<bool>("PUAlbumListViewController", "showPeople", [](id, SEL) { return false; });
+  EXPECT_EQ(device::installedHooks().back().encoding, "B@:");
+  ask<"reloadContentView">(PhotosApp::albumList());
+  EXPECT_TRUE(me_.sees("Places") && !me_.sees("People"));
+  me_.tap("Trips");
+  EXPECT_FALSE(me_.sees("Places"));
+  for (const std::string_view text : {"Photos", "Select", "Photo, 1970-01-01 00:00:01", "Add To"})
+    me_.tap(text);
+  EXPECT_TRUE(me_.sees("Trips") && !me_.sees("Places")) << "nothing can be added there";
 }
 
 }  // namespace

@@ -217,8 +217,8 @@ void animate(Object, Replaced<void(double, double, NSUInteger, Block<void()>, Bl
 
 TEST_F(Tiles, WhileTheListIsEditedTheyHaveButtonsThatSlideIn) {
   phone_.photoLibrary().addSyncedAlbum("Synced");
-  const HookRow row[] = {
-      replaceClassMethod<animate>("UIView", "animateWithDuration:delay:options:animations:completion:")};
+  const HookRow row[] = {replaceClassMethod<animate>(
+      "UIView", "animateWithDuration:delay:options:animations:completion:", "v@:ddQ@?@?")};
   installHooks(row);
   open(From::list);
   me_.tap("Edit");
@@ -256,7 +256,7 @@ void listLaidOut(UIViewController, Replaced<void()> host) {
 
 TEST_F(Tiles, TheLockButtonLocksAtOnceAndUnlocksForTheOwner) {
   open(From::list);
-  const HookRow row[] = {replace<listLaidOut>("PUAlbumListViewController", "viewDidLayoutSubviews")};
+  const HookRow row[] = {replace<listLaidOut>("PUAlbumListViewController", "viewDidLayoutSubviews", "v@:")};
   installHooks(row);
   me_.tap("Edit");
   const auto press = [&](NSInteger item) {

@@ -132,7 +132,7 @@ TEST_F(PhotosApp, APhoneThatCannotAskItsOwnerOpensAtOnceAndSoDoesAnyOtherOption)
 }
 
 TEST_F(PhotosApp, TheMessagesSayWhoAsksForWhat) {
-  const HookRow row[] = {replace<send>("CPDistributedMessagingCenter", "sendMessageName:userInfo:")};
+  const HookRow row[] = {replace<send>("CPDistributedMessagingCenter", "sendMessageName:userInfo:", "B@:@@")};
   installHooks(row);
   phone_.launchHere(device::kPhotos);
   me_.longPress("Holidays");
@@ -177,7 +177,8 @@ Object gadgetWithoutTile(PUHorizontalAlbumListGadget, Replaced<Object(NSIndexPat
 
 TEST_F(PhotosApp, AGadgetWithoutATileIsKnownByItsOwnTitle) {
   open(From::strip, {"Holidays"});
-  const HookRow row[] = {replace<gadgetWithoutTile>("PUHorizontalAlbumListGadget", "_gadgetAtIndexPath:")};
+  const HookRow row[] = {
+      replace<gadgetWithoutTile>("PUHorizontalAlbumListGadget", "_gadgetAtIndexPath:", "@@:@")};
   installHooks(row);
   strip().select(placeOf(1));
   settle();
@@ -305,7 +306,7 @@ void leftTheApp(PhotosApplication, Replaced<void(UIApplication)> host, UIApplica
 
 TEST_F(PhotosApp, LeavingTheAppTakesAnOpenedLockedAlbumOffTheScreen) {
   // Replaced before the library comes, so that this is what the library calls as the host's own.
-  const HookRow row[] = {replace<leftTheApp>("PhotosApplication", "applicationDidEnterBackground:")};
+  const HookRow row[] = {replace<leftTheApp>("PhotosApplication", "applicationDidEnterBackground:", "v@:@")};
   installHooks(row);
   open(From::strip, {"Holidays"});
   // An answer for nothing opens nothing, so that there is nothing to leave.
@@ -367,7 +368,7 @@ void countLayout(UIView, Replaced<void()> host) {
 
 TEST_F(PhotosApp, ATileIsDrawnAgainShortlyAfterItsLockHasChanged) {
   open(From::list);
-  const HookRow row[] = {replace<countLayout>("PUAlbumListCellContentView", "layoutSubviews")};
+  const HookRow row[] = {replace<countLayout>("PUAlbumListCellContentView", "layoutSubviews", "v@:")};
   installHooks(row);
   for (int press = 0; press < 2; ++press) {
     const UIGestureRecognizer recognizer = pressOn(tile(0));
@@ -486,6 +487,8 @@ TEST_F(PhotosApp, UnlockingAgainAndAgainLeavesNothingBehind) {
     tapAndEnter("Holidays", "wrong");
     tapAndEnter("Holidays", "", "Cancel");
     me_.waitUntilGone("Incorrect password");
+    // The notice has faded by then, and is taken away a little later.
+    EXPECT_TRUE(soon([] { return GSDebugAllocationCount(objc_getClass("UIDelayedBlock")) <= 0; }));
   };
   rounds();
   const std::string before = alive();

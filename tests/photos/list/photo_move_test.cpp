@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "host/hook.hpp"
-#include "photos/list/album_move.hpp"
 #include "tests/photos/photos_app.hpp"
 
 namespace velvault12 {
@@ -137,7 +136,8 @@ bool placeholder(PUAlbumListViewController, Replaced<bool(NSIndexPath)> host, NS
 }
 
 TEST_F(PhotoMove, WhatTakesNoPhotosIsTheHostsOwnAffair) {
-  const HookRow row[] = {replace<placeholder>("PUAlbumListViewController", "isPlaceholderAtIndexPath:")};
+  const HookRow row[] = {
+      replace<placeholder>("PUAlbumListViewController", "isPlaceholderAtIndexPath:", "B@:@")};
   installHooks(row);
   auto library = phone_.photoLibrary();
   library.addAlbum("Inside", library.addFolder("Folder"));
@@ -206,7 +206,7 @@ UIView banner(PUAlbumListViewController, Replaced<UIView()> host) { return isPic
 
 TEST_F(PhotoMove, TheCameraButtonBringsPhotosBack) {
   pickIn("Holidays", {1, 2});
-  const HookRow row[] = {replace<banner>("PUAlbumListViewController", "_pickerBannerView")};
+  const HookRow row[] = {replace<banner>("PUAlbumListViewController", "_pickerBannerView", "@@:")};
   installHooks(row);
   for (const bool now : {true, false, true, true}) {
     isPicking = now;
@@ -363,25 +363,23 @@ TEST_F(PhotoMove, DeletingPhotosAsksUnlessTheSettingsSkipIt) {
   EXPECT_EQ(soonIn("Holidays"), "2 3");
 }
 
-int synced = 0;
-void syncAlbums(Object) { ++synced; }
-
-TEST_F(PhotoMove, TheSheetForWholeAlbumsIsOfferedWhileEditingWhereThereIsOne) {
+TEST_F(PhotoMove, TheSheetForAllAlbumsIsOfferedWhileTheListIsEdited) {
   open(From::list);
   const auto items = [] { return albumList().navigationItem().rightBarButtonItems(); };
-  me_.tap("Edit");
-  EXPECT_EQ(items().count(), 1u) << "the host's own";
-  me_.tap("Done");
-  const HookRow row[] = {add<syncAlbums>("PUNavigationController", "syncAlbums", "v@:")};
-  installHooks(row);
+  const auto openSheet = [&] { items().objectAtIndex(1).send<"_send", void()>(); };
   for (int round = 1; round <= 2; ++round) {
     me_.tap("Edit");
     albumList().setEditing(true, false);
     ASSERT_EQ(items().count(), 2u);
     const Object image = items().objectAtIndex(1).send<"image", Object()>();
     EXPECT_EQ((image.send<"renderingMode", NSInteger()>()), 1) << "in its own colours";
-    items().objectAtIndex(1).send<"_send", void()>();
-    EXPECT_EQ(synced, round);
+    openSheet();
+    EXPECT_EQ(textsOf(me_.alert()),
+              (Titles{"Move Album Photos",
+                      "Reset photo albums by returning all photos to the camera roll? Photos will remain in "
+                      "folders but also appear in the camera roll.",
+                      "Return all", "Cancel"}));
+    me_.tap("Cancel");
     reload({{"enabled", false}});
     albumList().setEditing(true, false);
     EXPECT_EQ(items().count(), 1u) << "switched off";
@@ -389,20 +387,43 @@ TEST_F(PhotoMove, TheSheetForWholeAlbumsIsOfferedWhileEditingWhereThereIsOne) {
     me_.tap("Done");
     EXPECT_EQ(items().count(), 1u);
   }
-}
-
-TEST_F(PhotoMove, AllHiddenPhotosAreReturnedAtOnce) {
-  open(From::strip);
-  returnAllPhotos();
+  me_.tap("Edit");
+  openSheet();
+  me_.tap("Return all");
   me_.waitToSee("No photos to return.");
   for (const int number : {1, 3}) hide(number);
+  openSheet();
   {
     const HeldLibrary held;
-    returnAllPhotos();
+    me_.tap("Return all");
     me_.waitToSee("Returning all albums");
   }
   me_.waitToSee("Finished returning");
   EXPECT_EQ(in("Holidays"), "1 2 3");
+}
+
+TEST_F(PhotoMove, TheSheetOfAnOpenAlbumMovesItsPhotosAndOthersHaveNone) {
+  open(From::strip);
+  const auto openSheet = [] { navigation().send<"syncAlbums", void()>(); };
+  openSheet();
+  EXPECT_FALSE(me_.hasAlert()) << "neither a list nor an album";
+  me_.tap("Holidays");
+  for (const auto& [button, end, photos] :
+       {std::tuple("Move out of camera roll", "Finished moving", "1* 2* 3*"),
+        std::tuple("Return to camera roll", "Finished returning", "1 2 3")}) {
+    openSheet();
+    EXPECT_EQ(textsOf(me_.alert()),
+              (Titles{"Move Album Photos", "Move photos into or move them out of the camera roll?",
+                      "Return to camera roll", "Move out of camera roll", "Cancel"}));
+    me_.tap(button);
+    me_.waitToSee(end);
+    EXPECT_EQ(in("Holidays"), photos);
+  }
+  // A moment has no title.
+  top().send<"setAssetCollection:", void(PHAssetCollection)>(PHAssetCollection());
+  openSheet();
+  me_.tap("Return to camera roll");
+  me_.waitToSee("No photos to return.");
 }
 
 }  // namespace
