@@ -9,6 +9,7 @@
 #include "device/demo/page.hpp"
 #include "device/demo/phone.hpp"
 #include "device/demo/photo_chapters.hpp"
+#include "device/demo/presentation_chapters.hpp"
 #include "device/demo/story.hpp"
 #include "device/system/process.hpp"
 
@@ -42,6 +43,7 @@ int play(const std::filesystem::path& folder) {
     tellCamera(story, phone);
     tellPhotos(story, phone);
     tellLibraryFilter(story, phone);
+    tellPresentation(story, phone);
   }
   std::printf("\n%d of %d steps went as told. The phone's disk is left in %s.\n",
               story.steps() - story.failures(), story.steps(), folder.c_str());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <stdexcept>
 
 #include "device/demo/story.hpp"
@@ -33,6 +34,13 @@ std::string joined(const std::vector<std::string>& texts) {
   std::string all;
   for (const std::string& text : texts) all += (all.empty() ? "" : ", ") + text;
   return "[" + all + "]";
+}
+
+std::string wordsFor(const AssetRow& photo) {
+  const auto date = static_cast<std::time_t>(photo.creationDate);
+  char text[64];
+  std::strftime(text, sizeof text, "Photo, %Y-%m-%d %H:%M:%S", std::gmtime(&date));
+  return text;
 }
 
 Phone::Phone(const std::filesystem::path& folder, const std::filesystem::path& library,

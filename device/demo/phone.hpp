@@ -16,6 +16,9 @@ namespace device {
 /// "[one, two]"
 std::string joined(const std::vector<std::string>& texts);
 
+/// What the phone calls the photo.
+std::string wordsFor(const AssetRow& photo);
+
 /// The phone of the story, with three albums of three photos each, and who holds it.
 class Phone {
  public:

@@ -1,7 +1,6 @@
 #include "device/demo/photo_chapters.hpp"
 
 #include <algorithm>
-#include <ctime>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,14 +19,6 @@ constexpr std::string_view kMoveButton = "move";
 std::size_t hiddenIn(const Phone& phone, std::string_view title) {
   const std::vector<AssetRow> photos = phone.inAlbum(title);
   return static_cast<std::size_t>(std::ranges::count(photos, true, &AssetRow::isHidden));
-}
-
-/// What the phone calls the photo.
-std::string wordsFor(const AssetRow& photo) {
-  const auto date = static_cast<std::time_t>(photo.creationDate);
-  char text[64];
-  std::strftime(text, sizeof text, "Photo, %Y-%m-%d %H:%M:%S", std::gmtime(&date));
-  return text;
 }
 
 std::string counted(std::size_t count, std::string_view what) {
