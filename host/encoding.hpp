@@ -40,6 +40,11 @@ inline constexpr std::string_view kEncoding<CGSize> = "{CGSize=dd}";
 template <>
 inline constexpr std::string_view kEncoding<CGRect> = "{CGRect={CGPoint=dd}{CGSize=dd}}";
 
+/// Whether methods of these two encodings are called in the same way: as many arguments, each of them and the
+/// result an object or another pointer, an integer, a number with a fraction, a structure of such. Classes,
+/// names, sizes of integers and where arguments lie do not count.
+bool areCalledAlike(const char* encoding, const char* other);
+
 /// The encoding of a block's type, such as "v@?B@" with a zero at its end: result, the block itself,
 /// parameters.
 template <class Result, class... Parameters>

@@ -64,7 +64,6 @@ class NSNumber : public HostClass<"NSNumber"> {
 class NSValue : public HostClass<"NSValue"> {
  public:
   using HostClass::HostClass;
-  /// For a log: what a pointer leads to need not be an object.
   static NSValue ofPointer(const void* pointer) {
     return sendToClass<"valueWithPointer:", NSValue(const void*)>(hostClass(), pointer);
   }

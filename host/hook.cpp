@@ -16,7 +16,10 @@ void replaceMethod(const HookRow& row, MethodOf owner, IMP implementation, IMP* 
   if (type != nullptr && owner == MethodOf::type) type = object_getClass(reinterpret_cast<id>(type));
   const SEL selector = sel_registerName(row.selector);
   // Asked here as well, since the hooking function writes a warning to the log for each method it misses.
-  if (type == nullptr || class_getInstanceMethod(type, selector) == nullptr) return;
+  objc_method* const method = type == nullptr ? nullptr : class_getInstanceMethod(type, selector);
+  if (method == nullptr) return;
+  const char* const encoding = method_getTypeEncoding(method);
+  if (encoding != nullptr && !areCalledAlike(encoding, row.encoding)) return;
   MSHookMessageEx(type, selector, implementation, replaced);
 }
 

@@ -43,12 +43,15 @@ class Replaced<Result(Parameters...)> {
 struct HookRow {
   const char* className;
   const char* selector;
-  /// The type encoding of an added method, null for a replaced one.
+  /// Of the method, in the way that the runtime writes it.
   const char* encoding;
+  bool isAdded;
   void (*install)(const HookRow& row);
 };
 
-/// Installs the rows in their order. A class or a replaced method that the host lacks is passed over.
+/// Installs the rows in their order. A class or a replaced method that the host lacks is passed over, and so
+/// is a method that is called in another way than the row's encoding says: its replacement would read
+/// arguments that nobody passed.
 void installHooks(std::span<const HookRow> rows);
 
 namespace hook_details {
@@ -96,9 +99,9 @@ struct Replacement<Function, Result (*)(Receiver, Replaced<Result(Parameters...)
   }
 
   template <MethodOf Owner>
-  static consteval HookRow row(const char* className, const char* selector, std::string_view encoding) {
+  static consteval HookRow row(const char* className, const char* selector, const char* encoding) {
     if (!hasEncoding<Result, Parameters...>(encoding)) throw "the function has another type encoding";
-    return {className, selector, nullptr, &install<Owner>};
+    return {className, selector, encoding, false, &install<Owner>};
   }
 };
 
@@ -121,7 +124,7 @@ struct Addition<Function, Result (*)(Receiver, Parameters...)> {
   static consteval HookRow row(const char* className, const char* selector, const char* encoding) {
     static_assert(std::is_void_v<Result> || std::is_base_of_v<Object, Result>);
     if (!hasEncoding<void, Parameters...>(encoding)) throw "the function has another type encoding";
-    return {className, selector, encoding, &install};
+    return {className, selector, encoding, true, &install};
   }
 };
 
@@ -139,17 +142,16 @@ struct HostsAnswer<ClassName, Selector, Result(Parameters...)> {
 }  // namespace hook_details
 
 /// A row that puts `Function` in the place of an instance method of that type encoding. The function takes
-/// the receiver, what it replaces, and the method's arguments; one of other types does not compile. That the
-/// host's own method is of that encoding is for whoever writes the row to know.
+/// the receiver, what it replaces, and the method's arguments; one of other types does not compile.
 template <auto Function>
-consteval HookRow replace(const char* className, const char* selector, std::string_view encoding) {
+consteval HookRow replace(const char* className, const char* selector, const char* encoding) {
   using namespace hook_details;
   return Replacement<Function>::template row<MethodOf::instance>(className, selector, encoding);
 }
 
 /// The same for a class method.
 template <auto Function>
-consteval HookRow replaceClassMethod(const char* className, const char* selector, std::string_view encoding) {
+consteval HookRow replaceClassMethod(const char* className, const char* selector, const char* encoding) {
   using namespace hook_details;
   return Replacement<Function>::template row<MethodOf::type>(className, selector, encoding);
 }
@@ -157,7 +159,7 @@ consteval HookRow replaceClassMethod(const char* className, const char* selector
 /// A row for a method that is taken over and answers as the host does: its place in the order of hooks is
 /// kept for what may come to be decided there.
 template <Name ClassName, Name Selector, class Signature>
-consteval HookRow handOn(std::string_view encoding) {
+consteval HookRow handOn(const char* encoding) {
   return replace<&hook_details::HostsAnswer<ClassName, Selector, Signature>::handOn>(ClassName.text,
                                                                                      Selector.text, encoding);
 }
@@ -182,7 +184,7 @@ auto replacedBy(Object receiver) {
 consteval bool replacementsAreDistinct(std::span<const HookRow> rows) {
   for (std::size_t i = 0; i < rows.size(); ++i) {
     for (std::size_t j = 0; j < i; ++j) {
-      if (rows[i].encoding == nullptr && rows[i].install == rows[j].install) return false;
+      if (!rows[i].isAdded && rows[i].install == rows[j].install) return false;
     }
   }
   return true;

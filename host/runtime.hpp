@@ -6,8 +6,9 @@
 #include <type_traits>
 #include <utility>
 
-// The Objective-C runtime from C++. Two runtimes differ, in how a message finds its method and in what BOOL
-// is; this file alone knows. Nothing else of the runtime's headers is needed, so no platform SDK is.
+// The Objective-C runtime from C++. Two runtimes differ, in how a message finds its method, in what BOOL is
+// and in whether blocks are objects; this file alone knows. Nothing else of the runtime's headers is needed,
+// so no platform SDK is.
 
 extern "C" {
 struct objc_object;
@@ -27,8 +28,10 @@ using IMP = void (*)();
 
 #if defined(__APPLE__)
 using ObjcBool = bool;
+inline constexpr bool kBlocksAreObjects = true;
 #else
 using ObjcBool = unsigned char;
+inline constexpr bool kBlocksAreObjects = false;
 #endif
 
 extern "C" {
@@ -36,6 +39,7 @@ Class objc_getClass(const char* name);
 const char* class_getName(Class type);
 SEL sel_registerName(const char* name);
 objc_method* class_getInstanceMethod(Class type, SEL selector);
+const char* method_getTypeEncoding(objc_method* method);
 ObjcBool class_addMethod(Class type, SEL selector, IMP implementation, const char* encoding);
 Class objc_allocateClassPair(Class superclass, const char* name, std::size_t extraBytes);
 ObjcBool class_addIvar(Class type, const char* name, std::size_t size, std::uint8_t alignment,

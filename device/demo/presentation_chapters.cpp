@@ -13,6 +13,7 @@ namespace {
 using Choices = std::map<std::string, Device::Preference>;
 
 constexpr std::string_view kTabBar = "UITabBar";
+constexpr std::string_view kHeader = "PUPhotosSectionHeaderView";
 constexpr int kPhotosOfJourney = 60;
 constexpr double kFirstOfJourney = 1'730'000'000;
 
@@ -61,7 +62,7 @@ void switchTabsOff(Story& story, Phone& phone) {
     choices["showTabMoments"] = false;
     const User& photos = startedWith(phone, choices);
     expect(!showsTabBar(photos), "no tab bar");
-    return std::string("a single tab is left, and its bar is gone: the albums have the whole screen");
+    return std::string("a single tab is left, and its bar is gone");
   });
   story.step("You even switch \"Albums\" off.", [&] {
     choices["showTabAlbums"] = false;
@@ -82,7 +83,7 @@ void shrinkTiles(Story& story, Phone& phone) {
   story.step("You have your tabs back, and open all albums.", [&] {
     startedWith(phone, {}).tap("See All");
     expect(hasStacksOf(phone.in(kPhotos), "163"), "stacks of photos of 163 points");
-    return std::string("four albums are in sight, and the tops of two");
+    return std::string("the photos of each are 163 points wide");
   });
   story.step("You switch to smaller tiles, and open them again.", [&] {
     phone.changeSettings({{"shrinkAlbums", true}});
@@ -91,7 +92,7 @@ void shrinkTiles(Story& story, Phone& phone) {
     photos.tap("See All");
     expect(hasStacksOf(photos, "109"), "stacks of photos of 109 points");
     expect(!hasStacksOf(photos, "163"), "no larger ones");
-    return std::string("photos of 109 points where they had 163, the texts as before: all six are in sight");
+    return std::string("they are 109 points wide, two thirds of what the screen's width gives an album");
   });
 }
 
@@ -127,9 +128,10 @@ void openLongAlbum(Story& story, Phone& phone) {
     const User& photos = phone.in(kPhotos);
     photos.back();
     photos.tap("Camera Roll");
+    photos.waitUntilGone("Journey");
+    expect(photos.screen().find(kHeader) == std::string::npos, "no header");
     expect(!photos.sees(last), "the last photo of \"Journey\" was moved out of it");
-    return std::string(
-        "it opens at its end as well, without a header; the last photo of \"Journey\" is not there");
+    return std::string("no header here; the last photo of \"Journey\" is not there");
   });
 }
 
@@ -151,9 +153,10 @@ void takeOutOfAlbum(Story& story, Phone& phone) {
   });
   story.step("You touch it.", [&] {
     photos.tap(last);
-    photos.waitToSee(last);
+    photos.waitUntilGone("Select");
+    expect(photos.screen().find(" 375 500)") != std::string::npos, "it is as wide as the screen");
     expect(!photos.sees("LIVE"), "no badge");
-    return std::string("it fills the screen");
+    return std::string("it is shown alone, as wide as the screen");
   });
   story.step(
       "You switch the badge of live photos and the large zoom on, touch it again, and spread two fingers.",

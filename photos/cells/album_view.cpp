@@ -2,8 +2,7 @@
 
 #include "host/reference.hpp"
 #include "photos/list/album_title.hpp"
-#include "photos/list/tab_rules.hpp"
-#include "startup/settings.hpp"
+#include "photos/list/tabs.hpp"
 
 namespace velvault12 {
 
@@ -15,13 +14,19 @@ bool isInSeveralAlbums(PHAsset photo) {
   return PHAssetCollection::fetchContaining(photo, PHAssetCollection::Type::album).count() >= 2;
 }
 
-/// In one album, or, chosen elsewhere, in none.
-void showPhotosInOneAlbum(NSArray photos) {
+/// Shows those that are in no other album than this one, or in none at all.
+void showPhotosOfOneAlbum(NSArray photos) {
   const auto shown = makeObject<NSMutableArray>();
   for (const Object photo : photos) {
     if (!isInSeveralAlbums(PHAsset(photo.get()))) shown->addObject(photo);
   }
   if (shown->count() > 0) PUAssetHidingHelper::apply(false, shown.get());
+}
+
+/// What a log tells of a block. Nil stays nil.
+Object described(Block<void()> block) {
+  if (kBlocksAreObjects) return Object(static_cast<id>(block.get()));
+  return block.get() == nullptr ? Object() : NSValue::ofPointer(block.get());
 }
 
 }  // namespace
@@ -35,14 +40,13 @@ bool initiallyScrolledToBottom(PUPhotosAlbumViewController, Replaced<bool()>) { 
 void removeSelectedPhotos(PUPhotosAlbumViewController view, Replaced<void(Block<void()>)> host,
                           Block<void()> completion) {
   log("-[<PUPhotosAlbumViewController: %p> _removeSelectedAssetsWithCompletion:%@]: %@", view.get(),
-      NSValue::ofPointer(completion.get()).get(), NSString::from("removing").get());
-  showPhotosInOneAlbum(selectedPhotos(view).get());
+      described(completion).get(), NSString::from("removing").get());
+  showPhotosOfOneAlbum(selectedPhotos(view).get());
   host(completion);
 }
 
 bool albumWantsTabBar(PUPhotosAlbumViewController, Replaced<bool()> host) {
-  const auto chosen = settings();
-  return (chosen->enabled && hasOneTab(*chosen)) || host();
+  return isOneTabChosen() || host();
 }
 
 }  // namespace velvault12

@@ -15,10 +15,10 @@ void tileSetEditing(PUAlbumListCellContentView tile, Replaced<void(bool, bool)> 
 /// `createButtons`: they slide in from the left. Those that are there stay.
 void createButtons(PUAlbumListCellContentView tile);
 
-// A tile's own button comes when its list begins to be edited, on some versions after the tile was told: once
-// it is laid out, the two others are there as well.
+// Wherever a tile's own button, the one that deletes its album, is laid out, the two others are there as
+// well.
 
-/// `layoutSubviews` of every such button.
+/// `layoutSubviews` of every button of its kind.
 void buttonLayout(PXUIButton button, Replaced<void()> host);
 /// `viewidLoad`, as it is spelled: lays the button out.
 void buttonLoaded(PXUIButton button, Replaced<void()> host);

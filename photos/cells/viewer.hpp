@@ -10,7 +10,7 @@ namespace velvault12 {
 /// `wantsIrisBadgeVisible`: whether a live photo bears its badge.
 bool wantsLiveBadge(PUAssetViewModel photo, Replaced<bool()> host);
 
-/// `setDefaultMaximumZoomFactor:`. A larger zoom is the same for whatever the host asks for.
+/// `setDefaultMaximumZoomFactor:`: the large zoom takes the place of whatever factor the host sets.
 void setMaximumZoom(PUOneUpSettings viewer, Replaced<void(double)> host, double factor);
 
 }  // namespace velvault12

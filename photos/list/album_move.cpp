@@ -44,8 +44,8 @@ void moveAlbumPhotos(NSString title, AlbumMove move) {
 
 void askWhereAlbumGoes(NSString album, std::string_view title, std::string_view message,
                        UIViewController presenter, UIView source) {
-  const auto sheet = UIAlertController::make(title, message, UIAlertController::Style::actionSheet);
   const Ref<NSString> kept(album);
+  const auto sheet = UIAlertController::make(title, message, UIAlertController::Style::actionSheet);
   sheet.addAction("Return to camera roll",
                   [kept] { moveAlbumPhotos(kept.get(), AlbumMove::returnToCameraRoll); });
   sheet.addAction("Move out of camera roll", [kept] { moveAlbumPhotos(kept.get(), AlbumMove::moveOut); });

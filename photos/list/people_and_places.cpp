@@ -7,7 +7,8 @@ namespace velvault12 {
 namespace {
 
 bool shows(bool Settings::*choice, const Replaced<bool()>& host) {
-  return (!isEnabled() || isChosen(choice)) && host();
+  const auto chosen = settings();
+  return (!chosen->enabled || (*chosen).*choice) && host();
 }
 
 }  // namespace

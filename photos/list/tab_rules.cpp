@@ -12,16 +12,15 @@ constexpr int kMemories = 11;
 constexpr int kShared = 12;
 constexpr int kAlbums = 13;
 
+std::optional<int> unless(bool isShown, int mode) { return isShown ? std::nullopt : std::optional(mode); }
+
 }  // namespace
 
-std::vector<int> excludedContentModes(const Settings& settings, double systemVersion) {
-  std::vector<int> modes;
-  if (!settings.showTabMoments) modes.push_back(systemVersion > kLastVersionWithMoments ? kPhotos : kMoments);
-  if (!settings.showTabMemories) modes.push_back(kMemories);
-  if (!settings.showTabShared) modes.push_back(kShared);
-  const bool isAnyLeft = modes.size() < 3;
-  if (!settings.showTabAlbums && isAnyLeft) modes.push_back(kAlbums);
-  return modes;
+std::array<std::optional<int>, 4> excludedContentModes(const Settings& settings, double systemVersion) {
+  const bool isAnyLeft = settings.showTabMoments || settings.showTabMemories || settings.showTabShared;
+  return {unless(settings.showTabMoments, systemVersion > kLastVersionWithMoments ? kPhotos : kMoments),
+          unless(settings.showTabMemories, kMemories), unless(settings.showTabShared, kShared),
+          unless(settings.showTabAlbums || !isAnyLeft, kAlbums)};
 }
 
 bool hasOneTab(const Settings& settings) {

@@ -1,5 +1,8 @@
 #include "photos/list/tabs.hpp"
 
+#include <optional>
+#include <utility>
+
 #include "host/system_version.hpp"
 #include "photos/list/tab_rules.hpp"
 #include "startup/settings.hpp"
@@ -10,19 +13,20 @@ namespace {
 
 bool hasOneItem(UITabBar bar) { return isEnabled() && bar.items().count() == 1; }
 
-bool isWithoutBar() {
+}  // namespace
+
+bool isOneTabChosen() {
   const auto chosen = settings();
   return chosen->enabled && hasOneTab(*chosen);
 }
-
-}  // namespace
 
 NSArray excludedTabs(PUTabbedLibraryViewController, Replaced<NSArray()> host) {
   const auto chosen = settings();
   if (!chosen->enabled) return host();
   auto excluded = makeObject<NSMutableArray>();
-  for (const int mode : excludedContentModes(*chosen, coreFoundationVersion()))
-    excluded->addObject(NSNumber::from(mode));
+  for (const std::optional<int> mode : excludedContentModes(*chosen, coreFoundationVersion())) {
+    if (mode) excluded->addObject(NSNumber::from(*mode));
+  }
   return std::move(excluded).autorelease();
 }
 
@@ -34,9 +38,9 @@ void layOutTabBar(UITabBar bar, Replaced<void()> host) {
 bool isTabBarHidden(UITabBar bar, Replaced<bool()> host) { return hasOneItem(bar) || host(); }
 
 bool listAlwaysHidesTabBar(PUAlbumListViewController, Replaced<bool()> host) {
-  return isWithoutBar() || host();
+  return isOneTabChosen() || host();
 }
 
-bool listWantsTabBar(PUAlbumListViewController, Replaced<bool()> host) { return !isWithoutBar() && host(); }
+bool listWantsTabBar(PUAlbumListViewController, Replaced<bool()> host) { return !isOneTabChosen() && host(); }
 
 }  // namespace velvault12

@@ -14,7 +14,10 @@ NSArray excludedTabs(PUTabbedLibraryViewController tabs, Replaced<NSArray()> hos
 void layOutTabBar(UITabBar bar, Replaced<void()> host);
 bool isTabBarHidden(UITabBar bar, Replaced<bool()> host);
 
-// What the list of albums wishes, while exactly one tab is switched on: to be without the bar.
+/// Whether exactly one tab is switched on, while the library is.
+bool isOneTabChosen();
+
+// What the list of albums wishes then: to be without the bar.
 bool listAlwaysHidesTabBar(PUAlbumListViewController list, Replaced<bool()> host);
 bool listWantsTabBar(PUAlbumListViewController list, Replaced<bool()> host);
 

@@ -7,7 +7,7 @@ namespace velvault12 {
 
 /// What all tiles share, in points. Main thread only.
 struct TileMeasures {
-  /// The side of an album's tile, as the screen was when the strip came on it; 0 before.
+  /// The side of an album's tile, by the screen as it was when the strip last came on it.
   int albumSide = 0;
   /// The side of a locked tile's overlay: an album's size when the strip comes on screen, then what the last
   /// large tile asked for.

@@ -126,5 +126,40 @@ TEST_F(Edge, HooksReachTheNamedMethodAloneAndCallThrough) {
   EXPECT_EQ(classMethodCalls, 1);
 }
 
+TEST_F(Edge, AMethodThatIsCalledInAnotherWayIsLeftAlone) {
+  const struct {
+    const char* hosts;
+    const char* rows;
+    bool areAlike;
+  } cases[] = {
+      {"@16@0:8", "@@:", true},
+      {"B24@0:8@16", "B@:@", true},
+      {"c20@0:8c16", "B@:B", true},
+      {"{CGSize=dd}16@0:8", "{CGSize=dd}@:", true},
+      {"{CGRect={CGPoint=dd}{CGSize=dd}}16@0:8", "{CGRect={CGPoint=dd}{CGSize=dd}}@:", true},
+      {"Vv24@0:8@?<v@?B@>16", "v@:@?", true},
+      {"r^{_NSZone=^{x}q[4i]}16@0:8", "@@:", true},
+      {"@24@0:8^@16", "@@:#", true},
+      {"v20@0:8f16", "v@:d", false},
+      {"q16@0:8", "@@:", false},
+      {"v16@0:8", "v@:@", false},
+      {"v32@0:8@16@24", "v@:@", false},
+      {"d16@0:8", "{CGSize=dd}@:", false},
+      {"{CGSize=ff}16@0:8", "{CGSize=dd}@:", false},
+      {"{CGRect={CGPoint=dd}{CGSize=dd}}16@0:8", "{CGSize=dd}@:", false},
+      {"{open", "{CGSize=dd}@:", false},
+  };
+  for (const auto& [hosts, rows, areAlike] : cases) EXPECT_EQ(areCalledAlike(hosts, rows), areAlike) << hosts;
+
+  const Class type = ClassPair(classNamed<"NSObject">(), "TestOtherTypes")
+                         .method<baseAnswer>(selector<"testAnswer">(), "q@:")
+                         .registered();
+  const auto before = class_getInstanceMethod(type, selector<"testAnswer">());
+  const HookRow row[] = {replace<hooked>("TestOtherTypes", "testAnswer", "@@:")};
+  installHooks(row);
+  EXPECT_EQ((Object(sendToClass<"new", id()>(type)).send<"testAnswer", NSString()>().utf8()), "base");
+  EXPECT_EQ(class_getInstanceMethod(type, selector<"testAnswer">()), before);
+}
+
 }  // namespace
 }  // namespace velvault12

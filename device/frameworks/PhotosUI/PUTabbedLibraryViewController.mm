@@ -1,13 +1,10 @@
 #import "device/frameworks/PhotosUI/PUTabbedLibraryViewController.h"
 
-#include "device/frameworks/CoreFoundation.hpp"
 #import "device/frameworks/PhotosUI/PUAlbumListViewController.h"
 #import "device/frameworks/PhotosUI/PUAlbumsGadgetViewController.h"
 #import "device/frameworks/PhotosUI/PUPhotosGridViewController.h"
 
 namespace {
-
-constexpr double kLastVersionWithMoments = 1620.0;
 
 UIViewController* photos() { return [[[PUZoomableGridViewController alloc] init] autorelease]; }
 
@@ -33,8 +30,9 @@ struct Tab {
   UIViewController* (*makeRoot)();
 };
 
-const Tab kTabs[] = {
-    {kCFCoreFoundationVersionNumber <= kLastVersionWithMoments ? 0 : 10, photos},
+// The numbers are assumed: what a phone has there is not known.
+constexpr Tab kTabs[] = {
+    {0, photos},
     {11, memories},
     {12, shared},
     {13, albums},

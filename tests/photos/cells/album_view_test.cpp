@@ -1,6 +1,7 @@
 // An album's grid, the Albums tab as it comes on screen, and the viewer.
 
 #include <algorithm>
+#include <regex>
 
 #include "host/class_pair.hpp"
 #include "host/hook.hpp"
@@ -34,16 +35,25 @@ class AlbumView : public PhotosApp {
   std::vector<std::int64_t> albums_;
 };
 
+bool hostsAnswer = true;
+bool answer(Object, Replaced<bool()>) { return hostsAnswer; }
+
 TEST_F(AlbumView, OpensAtItsNewestPhotosUnderAHeaderUnlessItIsTheCameraRoll) {
+  const HookRow row[] = {replace<answer>("PUPhotosAlbumViewController", "shouldShowSectionHeaders", "B@:")};
+  installHooks(row);
   for (int minute = 1; minute < 60; ++minute) addPhoto(minute, {0});
   open(From::strip, {}, {{"startAtBottom", false}});
   me_.tap("Holidays");
   EXPECT_TRUE(me_.sees(words(59)));
   EXPECT_FALSE(me_.sees(words(1)));
   me_.scrollTo("1970-01-01");
+  hostsAnswer = false;
+  tap({"Photos", "Albums"});
+  EXPECT_FALSE(me_.sees("1970-01-01")) << "the host's choice";
+  hostsAnswer = true;
   me_.back();
   me_.tap("Camera Roll");
-  EXPECT_TRUE(me_.sees(words(59)));
+  me_.waitToSee("Select");
   EXPECT_THROW(me_.scrollTo("1970-01-01"), std::runtime_error) << "no header";
 }
 
@@ -72,26 +82,10 @@ TEST_F(AlbumView, PhotosOfNoAlbumAreShownAgainAndTheHostDecidesOnTheRest) {
   EXPECT_EQ(library.allAssets().size(), 4u);
   std::ifstream log(phone_.folder() / "log" / (std::string(device::kPhotos) + ".log"));
   const std::string lines(std::istreambuf_iterator<char>(log), {});
-  EXPECT_NE(lines.find("-[<PUPhotosAlbumViewController: 0x"), std::string::npos);
-  EXPECT_NE(lines.find("]: removing\n"), std::string::npos);
-}
-
-bool hostsWish(UIViewController, Replaced<bool()>) { return false; }
-
-TEST_F(AlbumView, WantsTheTabBarWhereASingleTabIsSwitchedOn) {
-  const HookRow row[] = {replace<hostsWish>("UIViewController", "pu_wantsTabBarVisible", "B@:")};
-  installHooks(row);
-  open(From::strip);
-  me_.tap("Holidays");
-  const auto wants = [] { return top().send<"pu_wantsTabBarVisible", bool()>(); };
-  EXPECT_FALSE(wants());
-  const Preferences one = {{"showTabMoments", false}, {"showTabMemories", false}, {"showTabAlbums", false}};
-  reload(one);
-  EXPECT_TRUE(wants());
-  Preferences off = one;
-  off["enabled"] = false;
-  reload(off);
-  EXPECT_FALSE(wants());
+  EXPECT_TRUE(std::regex_search(
+      lines, std::regex("-\\[<PUPhotosAlbumViewController: 0x[0-9a-f]+> "
+                        "_removeSelectedAssetsWithCompletion:\\(n[a-z]+\\)\\]: removing\n")))
+      << lines;
 }
 
 std::string laidOut;
@@ -125,37 +119,50 @@ TEST_F(AlbumView, TheAlbumsTabLaysOutWhatLiesAsDeepAsTilesDo) {
   EXPECT_EQ(laidOut, "5 6 7 8 50 60 ");
 }
 
-void loaded(Object) {}
+int loads = 0;
+void loaded(Object) { ++loads; }
 
 TEST_F(AlbumView, ATilesOwnButtonBringsTheOthersAlong) {
   const HookRow row[] = {add<loaded>("PXUIButton", "viewidLoad", "v@:")};
   installHooks(row);
   open(From::list);
   me_.tap("Edit");
-  const auto buttons = [] {
-    return !!tile(0).subviewWithTag<UIImageView>(213) + !!tile(0).subviewWithTag<UIImageView>(214);
+  const Ref<PUAlbumListCellContentView> first(tile(0));
+  const auto removeButtons = [&] {
+    for (const int tag : {213, 214}) first->subviewWithTag<UIImageView>(tag).removeFromSuperview();
   };
-  const auto removeButtons = [] {
-    for (const int tag : {213, 214}) tile(0).subviewWithTag<UIImageView>(tag).removeFromSuperview();
+  const auto buttons = [&] {
+    return !!first->subviewWithTag<UIImageView>(213) + !!first->subviewWithTag<UIImageView>(214);
   };
   EXPECT_EQ(buttons(), 2);
   for (const auto lay : {+[](Object button) { button.send<"layoutSubviews", void()>(); },
                          +[](Object button) { button.send<"viewidLoad", void()>(); }}) {
     removeButtons();
     EXPECT_EQ(buttons(), 0);
-    lay(tile(0).deleteButton());
+    loads = 0;
+    lay(first->deleteButton());
     EXPECT_EQ(buttons(), 2);
   }
+  EXPECT_EQ(loads, 1) << "the host's own";
   removeButtons();
   reload({{"enabled", false}});
-  tile(0).deleteButton().layoutSubviews();
+  first->deleteButton().layoutSubviews();
   EXPECT_EQ(buttons(), 0);
-  makeObject<PXUIButton>()->layoutSubviews();
+
+  reload({});
+  const auto elsewhere = makeObject<UIView>();
+  const auto button = makeObject<PXUIButton>();
+  elsewhere->addSubview(button.get());
+  button->layoutSubviews();
+  EXPECT_EQ(elsewhere->subviews().count(), 1u);
 }
 
 TEST_F(AlbumView, TheViewerShowsABadgeAndZoomsInOnDemand) {
   auto library = phone_.photoLibrary();
   library.addToAlbum(library.addAsset({.creationDate = 60, .smartSubtype = 213}), albums_[0]);
+  const HookRow row[] = {replace<answer>("PUAssetViewModel", "wantsIrisBadgeVisible", "B@:")};
+  installHooks(row);
+  hostsAnswer = false;
   open(From::strip);
   const auto zoom = [](double factor) {
     const auto settings = sendToClass<"sharedInstance", Object()>(classNamed<"PUOneUpSettings">());
@@ -177,6 +184,8 @@ TEST_F(AlbumView, TheViewerShowsABadgeAndZoomsInOnDemand) {
   EXPECT_EQ(zoom(500), 400);
   reload({{"showLiveBadge", true}, {"increaseZoom", true}, {"enabled", false}});
   EXPECT_FALSE(hasBadge());
+  hostsAnswer = true;
+  EXPECT_TRUE(hasBadge());
   EXPECT_EQ(zoom(3.5), 3.5);
 }
 

@@ -34,13 +34,22 @@ const Preferences kNone = {{"showTabMoments", false},
                            {"showTabShared", false},
                            {"showTabAlbums", false}};
 
+NSArray hostsModes;
+NSArray excludedByHost(Object, Replaced<NSArray()>) { return hostsModes; }
+
 TEST_F(Presentation, TabsAreLeftOut) {
+  const HookRow row[] = {
+      replace<excludedByHost>("PUTabbedLibraryViewController", "excludedContentModes", "@@:")};
+  installHooks(row);
+  hostsModes = NSArray::of(NSNumber::from(13));
   open(From::strip, {}, {{"showTabMemories", false}, {"showTabMoments", false}});
   EXPECT_EQ(tabTitles(), (Titles{"Shared", "Albums"}));
   EXPECT_FALSE(isBarHidden());
   EXPECT_GT(placeOfBar(), 40);
+  const auto excluded = [] { return tabs().send<"excludedContentModes", NSArray()>(); };
+  EXPECT_EQ(excluded().count(), 2u) << "not the host's as well";
   reload({{"enabled", false}});
-  EXPECT_EQ((tabs().send<"excludedContentModes", NSArray()>().count()), 0u) << "the host's own answer";
+  EXPECT_EQ(excluded(), hostsModes);
 }
 
 class SingleTab : public Presentation, public ::testing::WithParamInterface<bool> {};
@@ -61,8 +70,8 @@ TEST_P(SingleTab, HasNoBarWhateverIsOpened) {
   EXPECT_FALSE(isBarHidden()) << "the host's own affair";
 }
 
-ObjcBool no(id, SEL) { return 0; }
-ObjcBool yes(id, SEL) { return 1; }
+bool hostsAnswer = false;
+ObjcBool answer(id, SEL) { return hostsAnswer; }
 id titleOf(id, SEL, id collection) { return PHCollection(collection).localizedTitle().get(); }
 int drags = 0;
 void dragged(id, SEL, id) { ++drags; }
@@ -74,29 +83,43 @@ void give(const char* className, const char* selector, Function function, const 
                               reinterpret_cast<IMP>(function), encoding));
 }
 
-TEST_F(Presentation, WhatTheBarIsAskedFollowsTheSettings) {
-  give("UITabBar", "hidden", no, "B@:");
-  give("PUAlbumListViewController", "alwaysHideTabBar", no, "B@:");
+bool hostsWish(UIViewController, Replaced<bool()>) { return hostsAnswer; }
+
+TEST_F(Presentation, WhatTheBarIsAskedFollowsTheSettingsOrTheHost) {
+  give("UITabBar", "hidden", answer, "B@:");
+  give("PUAlbumListViewController", "alwaysHideTabBar", answer, "B@:");
+  const HookRow row[] = {replace<hostsWish>("UIViewController", "pu_wantsTabBarVisible", "B@:")};
+  installHooks(row);
   open(From::list, {}, kAlbumsAlone);
   const Ref<PUAlbumListViewController> list(albumList());
+  const Ref<PUPhotosAlbumViewController> album = makeObject<PUPhotosAlbumViewController>();
+  // The bar, the list, what the list wants and what an album wants, when the host says no and when it says
+  // yes.
   const auto asked = [&] {
-    return std::array{bar().send<"hidden", bool()>(), list->send<"alwaysHideTabBar", bool()>(),
-                      list->send<"pu_wantsTabBarVisible", bool()>()};
+    std::string all;
+    for (hostsAnswer = false;; hostsAnswer = true) {
+      for (const bool each :
+           {bar().send<"hidden", bool()>(), list->send<"alwaysHideTabBar", bool()>(),
+            list->send<"pu_wantsTabBarVisible", bool()>(), album->send<"pu_wantsTabBarVisible", bool()>()})
+        all += each ? '+' : '-';
+      if (hostsAnswer) return all;
+      all += ' ';
+    }
   };
-  EXPECT_EQ(asked(), (std::array{true, true, false}));
+  EXPECT_EQ(asked(), "++-+ ++-+");
   reload(kNone);
-  EXPECT_EQ(asked(), (std::array{true, false, true})) << "none is not one";
+  EXPECT_EQ(asked(), "+--- ++++") << "none is not one";
   Preferences off = kAlbumsAlone;
   off["enabled"] = false;
   reload(off);
-  EXPECT_EQ(asked(), (std::array{false, false, true}));
+  EXPECT_EQ(asked(), "---- ++++");
 }
 
 TEST_F(Presentation, PeopleAndPlacesAreEntriesThatCanBeLeftOut) {
   auto library = phone_.photoLibrary();
   for (const int kind : {200, 1000000203}) library.addAsset({.smartSubtype = kind});
   for (const char* selector : {"showPeople", "showPlaces"})
-    give("PUHorizontalAlbumListGadget", selector, yes, "B@:");
+    give("PUHorizontalAlbumListGadget", selector, answer, "B@:");
   open(From::strip);
   const Ref<PUHorizontalAlbumListGadget> strip(PhotosApp::strip());
   me_.tap("See All");
@@ -108,6 +131,8 @@ TEST_F(Presentation, PeopleAndPlacesAreEntriesThatCanBeLeftOut) {
     all += strip->send<"showPlaces", bool()>() ? "+" : "-";
     return all;
   };
+  EXPECT_EQ(shown(), "++--");
+  hostsAnswer = true;
   EXPECT_EQ(shown(), "++++");
   reload({{"showPeople", false}});
   EXPECT_EQ(shown(), "-+-+");
@@ -115,6 +140,17 @@ TEST_F(Presentation, PeopleAndPlacesAreEntriesThatCanBeLeftOut) {
   EXPECT_EQ(shown(), "+-+-");
   reload({{"showPeople", false}, {"showPlaces", false}, {"enabled", false}});
   EXPECT_EQ(shown(), "++++");
+}
+
+CGSize hostsTile(Object, Replaced<CGSize()>) { return {163, 200}; }
+
+TEST_F(Presentation, TilesHaveTheirSizeBeforeAnyIsShown) {
+  const HookRow row[] = {
+      replace<hostsTile>("PUAlbumListCellContentViewHelper", "albumCellSize", "{CGSize=dd}@:")};
+  installHooks(row);
+  open(From::strip, {}, {{"shrinkAlbums", true}, {"showTabAlbums", false}});
+  const auto size = makeObject<PUAlbumListCellContentViewHelper>()->send<"albumCellSize", CGSize()>();
+  EXPECT_EQ((std::pair{size.width, size.height}), (std::pair{109.0, 109.0 + 37}));
 }
 
 TEST_F(Presentation, ShrunkTilesKeepTheirTexts) {
