@@ -122,8 +122,10 @@ class PHAssetCollection : public HostClass<"PHAssetCollection", PHCollection> {
     return sendToClass<"transientAssetCollectionWithAssets:title:", PHAssetCollection(NSArray, NSString)>(
         hostClass(), assets, title);
   }
-  /// The user's albums that bear exactly this title, those among them that a computer keeps on the phone.
+  /// The user's albums that bear exactly this title, those among them that a computer keeps on the phone. None
+  /// for nil, with which a predicate would raise.
   static PHFetchResult<PHAssetCollection> userAlbums(NSString title) {
+    if (!title) return {};
     const auto options = PHFetchOptions::includingHidden();
     options->setPredicate(NSPredicate::make("title = %@", title));
     return fetch(Type::album, Subtype::any, options.get());

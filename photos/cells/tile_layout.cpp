@@ -31,7 +31,6 @@ void makePressable(PUAlbumListCellContentView tile) {
 /// dates, or whatever else the host writes there, stays.
 void countHiddenPhotos(PUAlbumListCellContentView tile, NSString title) {
   const NSString subtitle = tile.subtitle();
-  // No album is looked for without a title: a predicate raises without its argument.
   if (title.utf8().empty() || !isNumber(subtitle)) return;
   const PHAssetCollection album = PHAssetCollection::userAlbums(title).firstObject();
   if (!album || album.type() != PHAssetCollection::Type::album) return;

@@ -37,9 +37,7 @@ void setAllHidden(bool hidden, PHAssetCollection album, const Notices& notices) 
 
 void moveAlbumPhotos(NSString title, AlbumMove move) {
   const bool hides = move == AlbumMove::moveOut;
-  // A moment has no title, and a predicate raises without its argument.
-  const auto album = title ? PHAssetCollection::userAlbums(title).firstObject() : PHAssetCollection();
-  setAllHidden(hides, album, hides ? kMoving : kReturning);
+  setAllHidden(hides, PHAssetCollection::userAlbums(title).firstObject(), hides ? kMoving : kReturning);
 }
 
 void askWhereAlbumGoes(NSString album, std::string_view title, std::string_view message,
