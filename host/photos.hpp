@@ -122,8 +122,8 @@ class PHAssetCollection : public HostClass<"PHAssetCollection", PHCollection> {
     return sendToClass<"transientAssetCollectionWithAssets:title:", PHAssetCollection(NSArray, NSString)>(
         hostClass(), assets, title);
   }
-  /// The user's albums that bear exactly this title, those among them that a computer keeps on the phone. None
-  /// for nil, with which a predicate would raise.
+  /// The user's albums that bear exactly this title, those among them that a computer keeps on the phone.
+  /// None for nil, with which a predicate would raise.
   static PHFetchResult<PHAssetCollection> userAlbums(NSString title) {
     if (!title) return {};
     const auto options = PHFetchOptions::includingHidden();
