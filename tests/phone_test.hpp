@@ -10,6 +10,7 @@
 #include <fstream>
 #include <functional>
 #include <latch>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,6 +23,7 @@
 #include "device/system/sockets.hpp"
 #include "host/dispatch.hpp"
 #include "host/foundation.hpp"
+#include "host/hook.hpp"
 #include "host/photos.hpp"
 #include "host/runtime.hpp"
 
@@ -31,6 +33,12 @@ namespace velvault12 {
 extern "C" {
 ObjcBool GSDebugAllocationActive(ObjcBool active);
 int GSDebugAllocationCount(Class type);
+const char* GSDebugAllocationList(ObjcBool sinceLastTime);
+}
+/// How many objects of each class are alive, as a text.
+inline std::string alive() {
+  const AutoreleasePool turn;
+  return GSDebugAllocationList(0);
 }
 
 /// Entries without an object are left out, as a sender would that has none. Autoreleased.
@@ -40,6 +48,9 @@ inline NSMutableDictionary dictionaryOf(
   for (const auto& [key, object] : entries) dictionary->set(key, object);
   return std::move(dictionary).autorelease();
 }
+
+/// Installs one hook of the test's own.
+inline void installHook(const HookRow& row) { installHooks({&row, 1}); }
 
 /// A folder of its own that goes with it.
 class TemporaryFolder {
@@ -110,6 +121,7 @@ class PhoneTest : public ::testing::Test {
   static constexpr std::string_view kReload = "com.qdx.velvault12prefs/reloadPrefs";
 
   using Titles = std::vector<std::string>;
+  using Preferences = std::map<std::string, device::Device::Preference>;
 
   PhoneTest() { phone_.install(VELVAULT12_LIBRARY, VELVAULT12_FILTER, VELVAULT12_IMAGES); }
 
@@ -135,6 +147,16 @@ class PhoneTest : public ::testing::Test {
   Titles albums() const {
     Titles all;
     for (const auto& album : phone_.photoLibrary().allAlbums()) all.push_back(album.title);
+    return all;
+  }
+  /// What the albums of that title hold, hidden or not.
+  std::vector<device::AssetRow> assetsIn(std::string_view title) const {
+    std::vector<device::AssetRow> all;
+    const auto library = phone_.photoLibrary();
+    for (const auto& album : library.allAlbums()) {
+      if (album.title != title) continue;
+      for (const auto& asset : library.assetsInAlbum(album.identifier)) all.push_back(asset);
+    }
     return all;
   }
   /// How many observers the notification has, in all processes.
@@ -163,6 +185,20 @@ class PhoneTest : public ::testing::Test {
     runOnMainQueue([&isOver] { isOver = true; });
     ASSERT_TRUE(soon([&isOver] { return isOver; }));
   }
+  void tap(std::initializer_list<std::string_view> texts) const {
+    for (const std::string_view text : texts) me_.tap(text);
+  }
+  /// Lets everything that is on its way arrive: a message to SpringBoard, where the test runs one, and back.
+  void settle() const {
+    if (springBoard_) springBoard_->user().screen();
+    turn();
+  }
+  /// Has the settings read again.
+  void reload(const Preferences& preferences) const {
+    phone_.writePreferences(preferences);
+    phone_.post(kReload);
+    settle();
+  }
   /// Waits until the photo library has made the changes that it has been asked for by now, and those that
   /// these bring about.
   static void settleLibrary() {
@@ -184,6 +220,7 @@ class PhoneTest : public ::testing::Test {
 
  protected:
   device::Device phone_{folder_.path() / "phone"};
+  std::optional<device::App> springBoard_;
   /// Who uses the app that this process is.
   const device::User me_ = device::User::here();
   AutoreleasePool pool_;

@@ -3,9 +3,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <iterator>
 
 #include "device/apps/app.hpp"
 #include "device/system/loader.hpp"
@@ -61,7 +59,7 @@ NSTimer schedule(Object, Replaced<NSTimer(double, Object, SEL, Object, bool)> ho
 class CameraApp : public PhoneTest {
  protected:
   /// Boots the phone and opens the Camera with these settings, and "Pets" as the album last chosen.
-  void open(std::map<std::string, device::Device::Preference> preferences = {}) {
+  void open(Preferences preferences = {}) {
     springBoard_.emplace(phone_.launch(device::kSpringBoard));
     if (!hasFile(kCaptureAlbum)) writeStrings(kCaptureAlbum, {"Pets"});
     phone_.writePreferences(preferences);
@@ -78,18 +76,11 @@ class CameraApp : public PhoneTest {
     device::startApp(device::kCamera);
   }
   /// Opens it with that album chosen.
-  void openWith(std::string_view album, std::map<std::string, device::Device::Preference> preferences = {}) {
+  void openWith(std::string_view album, Preferences preferences = {}) {
     writeStrings(kCaptureAlbum, {std::string(album)});
     preferences["rememberDefault"] = true;
     open(preferences);
   }
-  void reload(const std::map<std::string, device::Device::Preference>& preferences) {
-    phone_.writePreferences(preferences);
-    phone_.post(kReload);
-    springBoard_->user().screen();
-    turn();
-  }
-
   static UIViewController viewfinder() {
     return UIApplication::sharedApplication().keyWindow().send<"rootViewController", UIViewController()>();
   }
@@ -125,15 +116,7 @@ class CameraApp : public PhoneTest {
     for (const auto& row : rows) all.push_back(row.identifier);
     return all;
   }
-  /// What albums of that title hold, hidden or not.
-  Numbers album(std::string_view title) const {
-    std::vector<device::AssetRow> all;
-    for (const auto& row : library_.allAlbums()) {
-      if (row.title == title)
-        std::ranges::copy(library_.assetsInAlbum(row.identifier), std::back_inserter(all));
-    }
-    return numbersOf(all);
-  }
+  Numbers album(std::string_view title) const { return numbersOf(assetsIn(title)); }
   Numbers cameraRoll() const {
     auto all = library_.allAssets();
     std::erase_if(all, [](const auto& row) { return row.isHidden; });
@@ -154,7 +137,6 @@ class CameraApp : public PhoneTest {
     }
   }
 
-  std::optional<device::App> springBoard_;
   device::PhotoDatabase library_ = phone_.photoLibrary();
 };
 
@@ -239,8 +221,7 @@ TEST_F(CameraApp, TheSettingsOfTheMomentDecideWhatACaptureDoes) {
   reload({});
   layOut(bottomBar());
   EXPECT_EQ(caption(), "Pets");
-  me_.tap("album");
-  me_.tap("Camera Roll");
+  tap({"album", "Camera Roll"});
   move();
   settleLibrary();
   EXPECT_EQ(cameraRoll(), photos);
@@ -350,8 +331,7 @@ TEST_F(CameraApp, EachChoiceIsShownAndSaved) {
   };
   EXPECT_TRUE(isPlacedFor("Camera Roll"));
   for (const std::string_view title : {"Pets", "Camera Roll"}) {
-    me_.tap("album");
-    me_.tap(title);
+    tap({"album", title});
     EXPECT_TRUE(me_.sees(title));
     EXPECT_TRUE(isPlacedFor(title)) << title;
     EXPECT_TRUE(soonSaved(title)) << title;
@@ -359,8 +339,7 @@ TEST_F(CameraApp, EachChoiceIsShownAndSaved) {
   }
 
   const auto typed = [&](std::string_view title, std::string_view button) {
-    me_.tap("album");
-    me_.tap(kNewAlbum);
+    tap({"album", kNewAlbum});
     const device::Alert alert = me_.alert();
     EXPECT_EQ(textsOf(alert), (Titles{"New Album", "Enter new album title", "Title", "Cancel", "Create"}));
     alert.type(title).tap(button);

@@ -119,14 +119,13 @@ TEST_F(DamagedFiles, TextIsReadByteForByteAndWhatIsNoUtf8AsAbsent) {
 }
 
 TEST_F(DamagedFiles, EveryProcessStartsAndGoesOnWithDefaultsAndWithoutLocks) {
-  const device::App springBoard = phone_.launch(device::kSpringBoard);
-  const device::User& owner = springBoard.user();
+  springBoard_.emplace(phone_.launch(device::kSpringBoard));
+  const device::User& owner = springBoard_->user();
   phone_.launchHere(device::kPhotos);
   me_.tap("See All");
   const auto leaveAlbumAfterReload = [&] {
     phone_.post(kReload);
-    owner.screen();
-    turn();
+    settle();
     me_.tap("Pets");
     me_.leaveApp();
     me_.returnToApp();
@@ -154,8 +153,7 @@ TEST_F(DamagedFiles, EveryProcessStartsAndGoesOnWithDefaultsAndWithoutLocks) {
     for (const char* const file : {"lockedAlbums.plist", "lockedAlbumsPaths.plist", "album.tct"})
       put(damage, std::string(kStateFolder) + "/" + file);
     me_.back();
-    me_.tap("See All");
-    me_.tap("Holidays");
+    tap({"See All", "Holidays"});
     EXPECT_FALSE(me_.sees("Pets")) << "it is open";
     me_.back();
     EXPECT_TRUE(phone_.launch(device::kGallery).user().sees("Holidays"));

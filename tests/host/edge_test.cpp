@@ -155,8 +155,8 @@ TEST_F(Edge, AMethodThatIsCalledInAnotherWayIsLeftAlone) {
                          .method<baseAnswer>(selector<"testAnswer">(), "q@:")
                          .registered();
   const auto before = class_getInstanceMethod(type, selector<"testAnswer">());
-  const HookRow row[] = {replace<hooked>("TestOtherTypes", "testAnswer", "@@:")};
-  installHooks(row);
+  const HookRow rows[] = {replace<hooked>("TestOtherTypes", "testAnswer", "@@:")};
+  installHooks(rows);
   EXPECT_EQ((Object(sendToClass<"new", id()>(type)).send<"testAnswer", NSString()>().utf8()), "base");
   EXPECT_EQ(class_getInstanceMethod(type, selector<"testAnswer">()), before);
 }

@@ -142,9 +142,8 @@ Collections hostsFetch(Object, Replaced<Collections(Type, Subtype, PHFetchOption
 
 TEST_F(LibraryFilter, HiddenPhotosAreFetchedButNotFromTheWholeLibrary) {
   addAlbum("Pets");
-  const HookRow row[] = {replaceClassMethod<hostsFetch>(
-      "PHAssetCollection", "fetchAssetCollectionsWithType:subtype:options:", "@@:qq@")};
-  installHooks(row);
+  installHook(replaceClassMethod<hostsFetch>("PHAssetCollection",
+                                             "fetchAssetCollectionsWithType:subtype:options:", "@@:qq@"));
   open();
   const auto pets = albumNamed("Pets");
   const Ref<PHFetchOptions> options = makeObject<PHFetchOptions>();

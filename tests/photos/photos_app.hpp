@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <optional>
-
 #include "host/photos_ui.hpp"
 #include "tests/phone_test.hpp"
 
@@ -38,15 +35,6 @@ class PhotosApp : public PhoneTest {
     if (from == From::list) me_.tap("See All");
   }
 
-  void reload(const Preferences& preferences) {
-    phone_.writePreferences(preferences);
-    phone_.post(kReload);
-    settle();
-  }
-
-  void tap(std::initializer_list<std::string_view> texts) const {
-    for (const std::string_view text : texts) me_.tap(text);
-  }
   const device::User& owner() const { return springBoard_->user(); }
   void ownerIs(OwnerAnswer answer) const {
     owner().waitForOwnerRequest();
@@ -104,11 +92,6 @@ class PhotosApp : public PhoneTest {
   bool soonOpen(std::string_view title) const {
     return soon([&] { return openAlbum() == title; });
   }
-  /// Lets everything that is on its way arrive: a message to SpringBoard and back.
-  void settle() const {
-    owner().screen();
-    turn();
-  }
   /// Taps the album and answers which one is open then.
   std::string tapped(std::string_view title) const {
     me_.tap(title);
@@ -123,8 +106,6 @@ class PhotosApp : public PhoneTest {
     me_.tap(title);
     enter(password, button);
   }
-
-  std::optional<device::App> springBoard_;
 };
 
 }  // namespace velvault12

@@ -102,19 +102,6 @@ TEST_F(PhotoChanges, ThatFailAreTakenBackAsAWhole) {
   EXPECT_TRUE(isHidden());
 }
 
-TEST_F(PhotoChanges, ComeInTheOrderOfTheirCalls) {
-  Titles order;
-  const auto note = [&order](const std::string& text) { order.push_back(text); };
-  {
-    const HeldLibrary held;
-    perform([&] { note("first"); }, block<void(bool, Object)>([&](bool, Object) { note("first is over"); }));
-    perform([&] { note("second"); });
-    EXPECT_EQ(order, Titles());
-  }
-  settleLibrary();
-  EXPECT_EQ(order, (Titles{"first", "first is over", "second"}));
-}
-
 TEST_F(PhotoChanges, RaiseWhereAPhoneRaises) {
   const auto synced = library_.addSyncedAlbum("Synced");
   Ref<Request> kept;
@@ -140,12 +127,13 @@ TEST_F(PhotoChanges, RaiseWhereAPhoneRaises) {
   EXPECT_TRUE(raises([&] { PUAssetHidingHelper::apply(true, set); })) << "no array";
 }
 
-TEST_F(PhotoChanges, PicturesHaveTheSizeAskedFor) {
+TEST_F(PhotoChanges, PicturesHaveTheSizeAskedForWhereThatIsToBeExact) {
   using Mode = PHImageManager::ContentMode;
   using Resize = PHImageRequestOptions::ResizeMode;
   using Size = std::pair<double, double>;
   Size delivered;
-  const auto request = [&](double side, Mode mode, const Ref<PHImageRequestOptions>& options) {
+  const auto options = makeObject<PHImageRequestOptions>();
+  const auto request = [&](double side, Mode mode) {
     delivered = {};
     PHImageManager::defaultManager().requestImage(
         photos().firstObject(), {side, side}, mode, options.get(),
@@ -155,16 +143,14 @@ TEST_F(PhotoChanges, PicturesHaveTheSizeAskedFor) {
         }));
     return delivered;
   };
-  const auto options = makeObject<PHImageRequestOptions>();
+  EXPECT_EQ(request(100, Mode::aspectFit), Size()) << "later";
+  EXPECT_TRUE(soon([&] { return delivered == Size(80, 104); })) << "fast unless told otherwise";
   options->setSynchronous(true);
-  EXPECT_EQ(request(100, Mode::aspectFit, options), Size(80, 104)) << "fast unless told otherwise";
   options->setResizeMode(Resize::exact);
-  EXPECT_EQ(request(100, Mode::aspectFit, options), Size(75, 100));
-  EXPECT_EQ(request(75, Mode::aspectFill, options), Size(75, 100));
+  EXPECT_EQ(request(100, Mode::aspectFit), Size(75, 100));
+  EXPECT_EQ(request(75, Mode::aspectFill), Size(75, 100));
   options->setResizeMode(Resize::none);
-  EXPECT_EQ(request(75, Mode::aspectFill, options), Size(3024, 4032));
-  EXPECT_EQ(request(100, Mode::aspectFit, makeObject<PHImageRequestOptions>()), Size()) << "later";
-  EXPECT_TRUE(soon([&] { return delivered == Size(80, 104); }));
+  EXPECT_EQ(request(75, Mode::aspectFill), Size(3024, 4032));
 }
 
 }  // namespace

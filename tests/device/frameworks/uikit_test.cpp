@@ -102,26 +102,17 @@ class UIKit : public EmptyScreen {
   Object witness_;
 };
 
-TEST_F(UIKit, FramesAndPointsFollowFromCentreBoundsAndTransform) {
+TEST_F(UIKit, AFrameFollowsFromCentreBoundsAndTransform) {
   const UIView view = add({{10, 20}, {30, 40}});
-  EXPECT_EQ(view.center(), (CGPoint{25, 40}));
-  view.setCenter({100, 100});
   ask<"setBounds:">(view, CGRect{{7, 30}, {50, 60}});
-  EXPECT_EQ(view.frame(), (CGRect{{75, 70}, {50, 60}})) << "it grows around its centre";
-  const UIView inner = add({{5, 36}, {10, 10}}, "", view), other = add({{1, 2}, {10, 10}});
-  EXPECT_EQ((ask<"convertPoint:toView:", CGPoint>(inner, CGPoint{1, 1}, other)), (CGPoint{73, 75}));
   view.setTransform({0, 1, -1, 0, 0, 0});
-  EXPECT_EQ(view.frame(), (CGRect{{70, 75}, {60, 50}})) << "turned by a quarter";
+  EXPECT_EQ(view.frame(), (CGRect{{-5, 15}, {60, 50}})) << "grown around its centre, turned by a quarter";
 }
 
-TEST_F(UIKit, AViewGoesWhereItIsToldAndIsNeverAddedToItself) {
-  const UIView parent = add({}), a = add({}, "", parent), b = add({}, "", parent);
-  parent.addSubview(a);
-  EXPECT_EQ(parent.subviews().objectAtIndex(1), a) << "added again";
-  ask<"bringSubviewToFront:">(parent, b);
-  EXPECT_EQ(parent.subviews().objectAtIndex(1), b);
-  ask<"insertSubview:atIndex:">(parent, b, NSInteger{0});
-  EXPECT_EQ(parent.subviews().objectAtIndex(0), b);
+TEST_F(UIKit, AViewIsAddedOnceAndNeverToItself) {
+  const UIView parent = add({}), view = add({}, "", parent);
+  parent.addSubview(view);
+  EXPECT_EQ(parent.subviews().count(), 1u);
   EXPECT_TRUE(raises([&] { parent.addSubview(parent); }));
 }
 

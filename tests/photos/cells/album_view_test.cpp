@@ -39,8 +39,7 @@ bool hostsAnswer = true;
 bool answer(Object, Replaced<bool()>) { return hostsAnswer; }
 
 TEST_F(AlbumView, OpensAtItsNewestPhotosUnderAHeaderUnlessItIsTheCameraRoll) {
-  const HookRow row[] = {replace<answer>("PUPhotosAlbumViewController", "shouldShowSectionHeaders", "B@:")};
-  installHooks(row);
+  installHook(replace<answer>("PUPhotosAlbumViewController", "shouldShowSectionHeaders", "B@:"));
   for (int minute = 1; minute < 60; ++minute) addPhoto(minute, {0});
   open(From::strip, {}, {{"startAtBottom", false}});
   me_.tap("Holidays");
@@ -165,8 +164,7 @@ TEST_F(AlbumView, ATilesOwnButtonBringsTheOthersAlong) {
 TEST_F(AlbumView, TheViewerShowsABadgeAndZoomsInOnDemand) {
   auto library = phone_.photoLibrary();
   library.addToAlbum(library.addAsset({.creationDate = 60, .smartSubtype = 213}), albums_[0]);
-  const HookRow row[] = {replace<answer>("PUAssetViewModel", "wantsIrisBadgeVisible", "B@:")};
-  installHooks(row);
+  installHook(replace<answer>("PUAssetViewModel", "wantsIrisBadgeVisible", "B@:"));
   hostsAnswer = false;
   open(From::strip);
   const auto zoom = [](double factor) {

@@ -20,8 +20,6 @@ std::string words(UIView view) {
   return text;
 }
 
-using Titles = std::vector<std::string>;
-
 class Tiles : public PhotosApp {
  protected:
   static PUAlbumListCellContentView stripTile(NSInteger item) {
@@ -39,13 +37,7 @@ class Tiles : public PhotosApp {
   bool soonCovered(NSInteger item, bool isCovered = true) const {
     return soon([&] { return tile(item) && static_cast<bool>(overlay(tile(item))) == isCovered; });
   }
-  bool isHidden(std::string_view title) const {
-    const auto library = phone_.photoLibrary();
-    for (const auto& album : library.allAlbums()) {
-      if (album.title == title) return library.assetsInAlbum(album.identifier).at(0).isHidden;
-    }
-    return false;
-  }
+  bool isHidden(std::string_view title) const { return assetsIn(title).at(0).isHidden; }
 };
 
 TEST_F(Tiles, ALockedOneHasOneOverlayThatOnlyTheListMoves) {
@@ -63,16 +55,20 @@ TEST_F(Tiles, ALockedOneHasOneOverlayThatOnlyTheListMoves) {
   EXPECT_STREQ(lock.className(), "VVLockView");
   for (int pass = 0; pass < 3; ++pass) layOut(inList);
   EXPECT_EQ(overlay(inList), lock) << "made once";
-  EXPECT_EQ(words(lock), "-1 -1 167 167");
-  EXPECT_EQ(words(lock.viewWithTag(kPadlock)), "57 57 50 50");
-  EXPECT_EQ((lock.send<"photoView", UIView()>()), inList.stackView());
+  const auto expectInItsPlace = [&](std::string_view when) {
+    SCOPED_TRACE(when);
+    EXPECT_EQ(words(lock), "-1 -1 167 167");
+    EXPECT_EQ(words(lock.viewWithTag(kPadlock)), "57 57 50 50");
+    EXPECT_EQ((lock.send<"photoView", UIView()>()), inList.stackView());
+    EXPECT_EQ(inList.subviews().objectAtIndex(inList.subviews().count() - 1), lock) << "in front";
+  };
+  expectInItsPlace("made");
   const NSArray parts = lock.subviews();
   ASSERT_EQ(parts.count(), 2u);
   EXPECT_TRUE(parts.objectAtIndex(0).as<UIVisualEffectView>());
   EXPECT_EQ(words(UIView(parts.objectAtIndex(0).get())), "0 0 265 265");
   EXPECT_TRUE((lock.send<"clipsToBounds", bool()>()));
   EXPECT_EQ((lock.layer().send<"cornerRadius", double()>()), 5);
-  EXPECT_EQ(inList.subviews().objectAtIndex(inList.subviews().count() - 1), lock) << "in front";
 
   // The padlock of a tile that was larger when it was made.
   lock.viewWithTag(kPadlock).setFrame({});
@@ -82,10 +78,7 @@ TEST_F(Tiles, ALockedOneHasOneOverlayThatOnlyTheListMoves) {
   inList.stackView().setFrame({{5, 6}, {100, 100}});
   inList.setHidden(true);
   layOut(inList);
-  EXPECT_EQ(words(lock), "-1 -1 167 167") << "the host has laid its stack out again";
-  EXPECT_EQ(words(lock.viewWithTag(kPadlock)), "57 57 50 50");
-  EXPECT_EQ((lock.send<"photoView", UIView()>()), inList.stackView());
-  EXPECT_EQ(inList.subviews().objectAtIndex(inList.subviews().count() - 1), lock);
+  expectInItsPlace("once the host has laid its stack out again");
   EXPECT_TRUE((inList.send<"clipsToBounds", bool()>()));
   EXPECT_FALSE((inList.send<"isHidden", bool()>()));
 
@@ -201,7 +194,7 @@ TEST_F(Tiles, TheTextsFollowTheSettings) {
 /// A tile whose animations are noted as they begin: its latest view's alpha, the animation's seconds, delay
 /// and options, and that view's frame.
 PUAlbumListCellContentView animated;
-Titles animations;
+std::vector<std::string> animations;
 void animate(Object, Replaced<void(double, double, NSUInteger, Block<void()>, Block<void(bool)>)> host,
              double duration, double delay, NSUInteger options, Block<void()> block,
              Block<void(bool)> completion) {
@@ -217,9 +210,8 @@ void animate(Object, Replaced<void(double, double, NSUInteger, Block<void()>, Bl
 
 TEST_F(Tiles, WhileTheListIsEditedTheyHaveButtonsThatSlideIn) {
   phone_.photoLibrary().addSyncedAlbum("Synced");
-  const HookRow row[] = {replaceClassMethod<animate>(
-      "UIView", "animateWithDuration:delay:options:animations:completion:", "v@:ddQ@?@?")};
-  installHooks(row);
+  installHook(replaceClassMethod<animate>(
+      "UIView", "animateWithDuration:delay:options:animations:completion:", "v@:ddQ@?@?"));
   open(From::list);
   me_.tap("Edit");
   const auto shown = tile(0);
@@ -256,8 +248,7 @@ void listLaidOut(UIViewController, Replaced<void()> host) {
 
 TEST_F(Tiles, TheLockButtonLocksAtOnceAndUnlocksForTheOwner) {
   open(From::list);
-  const HookRow row[] = {replace<listLaidOut>("PUAlbumListViewController", "viewDidLayoutSubviews", "v@:")};
-  installHooks(row);
+  installHook(replace<listLaidOut>("PUAlbumListViewController", "viewDidLayoutSubviews", "v@:"));
   me_.tap("Edit");
   const auto press = [&](NSInteger item) {
     tile(item).send<"lockAlbum", void()>();
@@ -316,6 +307,10 @@ TEST_F(Tiles, APressInListAndStripIsForWhatShowsTheTile) {
   layOut(tile(0));
   me_.longPress("Holidays");
   EXPECT_TRUE(soonLocked({"Holidays"}));
+  EXPECT_TRUE(soonCovered(0)) << "without another touch";
+  me_.longPress("Holidays");
+  ownerIs(OwnerAnswer::success);
+  EXPECT_TRUE(soonCovered(0, false));
 }
 
 TEST_F(Tiles, AnAlbumIsMovedAndReturnedFromItsTile) {

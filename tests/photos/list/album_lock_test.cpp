@@ -132,8 +132,7 @@ TEST_F(PhotosApp, APhoneThatCannotAskItsOwnerOpensAtOnceAndSoDoesAnyOtherOption)
 }
 
 TEST_F(PhotosApp, TheMessagesSayWhoAsksForWhat) {
-  const HookRow row[] = {replace<send>("CPDistributedMessagingCenter", "sendMessageName:userInfo:", "B@:@@")};
-  installHooks(row);
+  installHook(replace<send>("CPDistributedMessagingCenter", "sendMessageName:userInfo:", "B@:@@"));
   phone_.launchHere(device::kPhotos);
   me_.longPress("Holidays");
   EXPECT_EQ(sent,
@@ -177,9 +176,7 @@ Object gadgetWithoutTile(PUHorizontalAlbumListGadget, Replaced<Object(NSIndexPat
 
 TEST_F(PhotosApp, AGadgetWithoutATileIsKnownByItsOwnTitle) {
   open(From::strip, {"Holidays"});
-  const HookRow row[] = {
-      replace<gadgetWithoutTile>("PUHorizontalAlbumListGadget", "_gadgetAtIndexPath:", "@@:@")};
-  installHooks(row);
+  installHook(replace<gadgetWithoutTile>("PUHorizontalAlbumListGadget", "_gadgetAtIndexPath:", "@@:@"));
   strip().select(placeOf(1));
   settle();
   EXPECT_EQ(owner().ownerRequest(), "Holidays needs to be unlocked.");
@@ -306,8 +303,7 @@ void leftTheApp(PhotosApplication, Replaced<void(UIApplication)> host, UIApplica
 
 TEST_F(PhotosApp, LeavingTheAppTakesAnOpenedLockedAlbumOffTheScreen) {
   // Replaced before the library comes, so that this is what the library calls as the host's own.
-  const HookRow row[] = {replace<leftTheApp>("PhotosApplication", "applicationDidEnterBackground:", "v@:@")};
-  installHooks(row);
+  installHook(replace<leftTheApp>("PhotosApplication", "applicationDidEnterBackground:", "v@:@"));
   open(From::strip, {"Holidays"});
   // An answer for nothing opens nothing, so that there is nothing to leave.
   phone_.post(kAnswered);
@@ -358,25 +354,6 @@ TEST_F(PhotosApp, OnlyTheBeginningOfAPressActs) {
   recognizer.send<"_enterState:", void(State)>(State::possible);
   longPress(recognizer);
   EXPECT_TRUE(soonLocked({"Holidays"}));
-}
-
-int layoutPasses = 0;
-void countLayout(UIView, Replaced<void()> host) {
-  ++layoutPasses;
-  host();
-}
-
-TEST_F(PhotosApp, ATileIsDrawnAgainShortlyAfterItsLockHasChanged) {
-  open(From::list);
-  const HookRow row[] = {replace<countLayout>("PUAlbumListCellContentView", "layoutSubviews", "v@:")};
-  installHooks(row);
-  for (int press = 0; press < 2; ++press) {
-    const UIGestureRecognizer recognizer = pressOn(tile(0));
-    const int before = layoutPasses;
-    longPress(recognizer);
-    EXPECT_EQ(layoutPasses, before);
-    EXPECT_TRUE(soon([&] { return layoutPasses > before; })) << press;
-  }
 }
 
 TEST_F(PhotosApp, AnAnswerThatNobodyAwaitsOpensNothingButMayLeaveAPass) {
@@ -447,13 +424,6 @@ TEST_F(PhotosApp, WithoutSpringBoardNothingWaitsAndNothingOpens) {
   springBoard_.emplace(phone_.launch(device::kSpringBoard));
   tapAs(OwnerAnswer::success, {"Holidays"});
   EXPECT_TRUE(soonOpen("Holidays"));
-}
-
-/// Foundation's list of how many objects of each class are alive.
-extern "C" const char* GSDebugAllocationList(ObjcBool sinceLastTime);
-std::string alive() {
-  const AutoreleasePool turn;
-  return GSDebugAllocationList(0);
 }
 
 TEST_P(EitherWay, TenThousandSelectionsLeaveNothingBehind) {

@@ -48,12 +48,7 @@ class PhotoMove : public PhotosApp {
   }
 
   /// Which of the numbered photos there are in an album or at all, and which are hidden, such as "1 2* 3".
-  std::string in(std::string_view title) const {
-    for (const auto& album : phone_.photoLibrary().allAlbums()) {
-      if (album.title == title) return numbersOf(phone_.photoLibrary().assetsInAlbum(album.identifier));
-    }
-    return "(no album)";
-  }
+  std::string in(std::string_view title) const { return numbersOf(assetsIn(title)); }
   std::string all() const { return numbersOf(phone_.photoLibrary().allAssets()); }
   std::string numbersOf(const std::vector<device::AssetRow>& assets) const {
     std::string text;
@@ -136,9 +131,7 @@ bool placeholder(PUAlbumListViewController, Replaced<bool(NSIndexPath)> host, NS
 }
 
 TEST_F(PhotoMove, WhatTakesNoPhotosIsTheHostsOwnAffair) {
-  const HookRow row[] = {
-      replace<placeholder>("PUAlbumListViewController", "isPlaceholderAtIndexPath:", "B@:@")};
-  installHooks(row);
+  installHook(replace<placeholder>("PUAlbumListViewController", "isPlaceholderAtIndexPath:", "B@:@"));
   auto library = phone_.photoLibrary();
   library.addAlbum("Inside", library.addFolder("Folder"));
   library.addSyncedAlbum("Synced");
@@ -206,8 +199,7 @@ UIView banner(PUAlbumListViewController, Replaced<UIView()> host) { return isPic
 
 TEST_F(PhotoMove, TheCameraButtonBringsPhotosBack) {
   pickIn("Holidays", {1, 2});
-  const HookRow row[] = {replace<banner>("PUAlbumListViewController", "_pickerBannerView", "@@:")};
-  installHooks(row);
+  installHook(replace<banner>("PUAlbumListViewController", "_pickerBannerView", "@@:"));
   for (const bool now : {true, false, true, true}) {
     isPicking = now;
     picker().send<"viewDidLayoutSubviews", void()>();

@@ -38,9 +38,7 @@ NSArray hostsModes;
 NSArray excludedByHost(Object, Replaced<NSArray()>) { return hostsModes; }
 
 TEST_F(Presentation, TabsAreLeftOut) {
-  const HookRow row[] = {
-      replace<excludedByHost>("PUTabbedLibraryViewController", "excludedContentModes", "@@:")};
-  installHooks(row);
+  installHook(replace<excludedByHost>("PUTabbedLibraryViewController", "excludedContentModes", "@@:"));
   hostsModes = NSArray::of(NSNumber::from(13));
   open(From::strip, {}, {{"showTabMemories", false}, {"showTabMoments", false}});
   EXPECT_EQ(tabTitles(), (Titles{"Shared", "Albums"}));
@@ -88,8 +86,7 @@ bool hostsWish(UIViewController, Replaced<bool()>) { return hostsAnswer; }
 TEST_F(Presentation, WhatTheBarIsAskedFollowsTheSettingsOrTheHost) {
   give("UITabBar", "hidden", answer, "B@:");
   give("PUAlbumListViewController", "alwaysHideTabBar", answer, "B@:");
-  const HookRow row[] = {replace<hostsWish>("UIViewController", "pu_wantsTabBarVisible", "B@:")};
-  installHooks(row);
+  installHook(replace<hostsWish>("UIViewController", "pu_wantsTabBarVisible", "B@:"));
   open(From::list, {}, kAlbumsAlone);
   const Ref<PUAlbumListViewController> list(albumList());
   const Ref<PUPhotosAlbumViewController> album = makeObject<PUPhotosAlbumViewController>();
@@ -145,9 +142,7 @@ TEST_F(Presentation, PeopleAndPlacesAreEntriesThatCanBeLeftOut) {
 CGSize hostsTile(Object, Replaced<CGSize()>) { return {163, 200}; }
 
 TEST_F(Presentation, TilesHaveTheirSizeBeforeAnyIsShown) {
-  const HookRow row[] = {
-      replace<hostsTile>("PUAlbumListCellContentViewHelper", "albumCellSize", "{CGSize=dd}@:")};
-  installHooks(row);
+  installHook(replace<hostsTile>("PUAlbumListCellContentViewHelper", "albumCellSize", "{CGSize=dd}@:"));
   open(From::strip, {}, {{"shrinkAlbums", true}, {"showTabAlbums", false}});
   const auto size = makeObject<PUAlbumListCellContentViewHelper>()->send<"albumCellSize", CGSize()>();
   EXPECT_EQ((std::pair{size.width, size.height}), (std::pair{109.0, 109.0 + 37}));
