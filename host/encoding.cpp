@@ -25,6 +25,13 @@ const char* pastType(const char* at) {
   return at;
 }
 
+const char* pastQuotes(const char* at) {
+  do {
+    ++at;
+  } while (*at != '"' && *at != '\0');
+  return *at == '\0' ? at : at + 1;
+}
+
 /// How the next part of an encoding is passed, and moves past it; a zero at the end. A structure is its
 /// brackets and what is between them.
 char nextPart(const char*& at) {
@@ -42,9 +49,10 @@ char nextPart(const char*& at) {
       return '@';
     case '@':
       ++at;
-      // A block's own type may stand behind it.
+      // A block's own type, or the name of the class, may stand behind it.
       if (*at == '?') ++at;
       if (*at == '<') at = pastType(at);
+      if (*at == '"') at = pastQuotes(at);
       return '@';
     case '#':
     case ':':

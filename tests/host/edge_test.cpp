@@ -140,6 +140,7 @@ TEST_F(Edge, AMethodThatIsCalledInAnotherWayIsLeftAlone) {
       {"Vv24@0:8@?<v@?B@>16", "v@:@?", true},
       {"r^{_NSZone=^{x}q[4i]}16@0:8", "@@:", true},
       {"@24@0:8^@16", "@@:#", true},
+      {"v32@0:8@\"NSString\"16@24", "v@:@@", true},
       {"v20@0:8f16", "v@:d", false},
       {"q16@0:8", "@@:", false},
       {"v16@0:8", "v@:@", false},
@@ -148,6 +149,7 @@ TEST_F(Edge, AMethodThatIsCalledInAnotherWayIsLeftAlone) {
       {"{CGSize=ff}16@0:8", "{CGSize=dd}@:", false},
       {"{CGRect={CGPoint=dd}{CGSize=dd}}16@0:8", "{CGSize=dd}@:", false},
       {"{open", "{CGSize=dd}@:", false},
+      {"v@:@\"open", "v@:@@", false},
   };
   for (const auto& [hosts, rows, areAlike] : cases) EXPECT_EQ(areCalledAlike(hosts, rows), areAlike) << hosts;
 
