@@ -11,7 +11,8 @@ namespace velvault12 {
 /// The camera roll is one long row of photos, without headers in between.
 bool shouldShowSectionHeaders(PUPhotosAlbumViewController view, Replaced<bool()> host);
 
-/// Every album opens at its newest photos, whatever the settings say.
+/// Every album opens at its end, where its newest photos are unless its owner has put them in another order;
+/// whatever the settings say.
 bool initiallyScrolledToBottom(PUPhotosAlbumViewController view, Replaced<bool()> host);
 
 /// Photos that this is the last album of are shown in the camera roll again before they leave it: moved out
