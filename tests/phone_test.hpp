@@ -1,7 +1,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 #include <sys/inotify.h>
 #include <unistd.h>
 
@@ -26,6 +25,7 @@
 #include "host/hook.hpp"
 #include "host/photos.hpp"
 #include "host/runtime.hpp"
+#include "tests/temporary_folder.hpp"
 
 namespace velvault12 {
 
@@ -51,22 +51,6 @@ inline NSMutableDictionary dictionaryOf(
 
 /// Installs one hook of the test's own.
 inline void installHook(const HookRow& row) { installHooks({&row, 1}); }
-
-/// A folder of its own that goes with it.
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "phone-XXXXXX").string();
-    path_ = mkdtemp(name.data());
-  }
-  ~TemporaryFolder() { std::filesystem::remove_all(path_); }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 /// Makes each change to a folder's files an event of the main thread's run loop.
 class FolderEvents {

@@ -1,0 +1,125 @@
+// Measures what the library costs its hosts. A process has its hooks installed once, and is one app of one
+// phone: so each group of cases has a process of its own.
+
+#include <benchmark/benchmark.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <fstream>
+#include <functional>
+#include <iostream>
+#include <iterator>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "benchmarks/library_filter/library_filter_benchmark.hpp"
+#include "benchmarks/photos/photos_benchmark.hpp"
+#include "benchmarks/report.hpp"
+#include "benchmarks/springboard/service_benchmark.hpp"
+#include "benchmarks/startup/constructor_benchmark.hpp"
+
+namespace velvault12::benchmarks {
+
+namespace {
+
+struct Group {
+  const char* name;
+  std::function<Figures()> measure;
+};
+
+const Group kGroups[] = {
+    {"loading", measureLoading},
+    {"lists of 10 albums", [] { return measureListedCollections(10); }},
+    {"lists of 100 albums", [] { return measureListedCollections(100); }},
+    {"lists of 1,000 albums", [] { return measureListedCollections(1'000); }},
+    {"lists of 10,000 albums", [] { return measureListedCollections(10'000); }},
+    {"fetches of an album", measureAssetFetch},
+    {"tiles", measureTileLayout},
+    {"selections", measureAlbumSelection},
+    {"methods that are handed on", measurePassThrough},
+    {"messages between processes", measureService},
+};
+
+void write(std::ostream& out, const Figures& figures) {
+  out.precision(17);
+  for (const auto& [name, version, seconds] : figures)
+    out << seconds << ' ' << static_cast<int>(version) << ' ' << name << '\n';
+}
+
+Figures read(std::istream& in) {
+  Figures figures;
+  Figure figure;
+  int version = 0;
+  while (in >> figure.seconds >> version && std::getline(in >> std::ws, figure.name)) {
+    figure.version = static_cast<Version>(version);
+    figures.push_back(figure);
+  }
+  return figures;
+}
+
+Figures measureInOwnProcess(const Group& group) {
+  std::FILE* const told = std::tmpfile();
+  const pid_t parent = getpid();
+  const pid_t process = fork();
+  if (process == 0) {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent) _exit(1);
+    try {
+      std::ostringstream figures;
+      write(figures, group.measure());
+      std::fputs(figures.str().c_str(), told);
+      _exit(std::fflush(told) == 0 ? 0 : 1);
+    } catch (const std::exception& error) {
+      std::cerr << group.name << ": " << error.what() << '\n';
+      _exit(1);
+    }
+  }
+  int status = 0;
+  if (process < 0 || waitpid(process, &status, 0) != process || status != 0)
+    throw std::runtime_error(std::string("not measured: ") + group.name);
+  std::rewind(told);
+  std::string text;
+  for (int c = std::fgetc(told); c != EOF; c = std::fgetc(told)) text += static_cast<char>(c);
+  std::fclose(told);
+  std::istringstream in(text);
+  return read(in);
+}
+
+}  // namespace
+
+}  // namespace velvault12::benchmarks
+
+int main(int argc, char** argv) {
+  using namespace velvault12::benchmarks;
+  // What the command line says comes last and so counts.
+  std::vector<std::string> words{argv[0], "--benchmark_repetitions=9", "--benchmark_min_time=0.03",
+                                 "--benchmark_enable_random_interleaving=true"};
+  words.insert(words.end(), argv + 1, argv + argc);
+  std::vector<char*> arguments;
+  for (std::string& word : words) arguments.push_back(word.data());
+  int count = static_cast<int>(arguments.size());
+  benchmark::Initialize(&count, arguments.data());
+
+  // What is left is the name of a group, or a part of it.
+  const std::string chosen = count > 1 ? arguments[1] : "";
+  Figures all;
+  try {
+    for (const Group& group : kGroups) {
+      if (std::string_view(group.name).find(chosen) == std::string_view::npos) continue;
+      std::cerr << "Measuring " << group.name << '\n';
+      std::ranges::move(measureInOwnProcess(group), std::back_inserter(all));
+    }
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << '\n';
+    return 1;
+  }
+  std::cout << report(all);
+  std::ofstream(BENCH_PLOT) << growthPlot(all);
+  std::cerr << "Growth: " << BENCH_PLOT << '\n';
+}
