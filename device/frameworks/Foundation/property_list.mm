@@ -1,5 +1,6 @@
 #include "device/frameworks/Foundation/property_list.hpp"
 
+#include <cmath>
 #include <cstdio>
 #include <ctime>
 
@@ -12,6 +13,8 @@ namespace {
 // GNUstep's readers of text follow the nesting on the stack, which holds out for more than twice as many.
 constexpr std::size_t kMostContainers = 20'000;
 constexpr int kDeepest = 512;
+/// Seconds from 1970, either way: beyond any year that can be written.
+constexpr double kFarthestDate = 1e18;
 
 std::size_t occurrences(std::string_view text, std::string_view word) {
   std::size_t count = 0;
@@ -24,8 +27,11 @@ bool isXmlCutOff(std::string_view text) {
   return text.starts_with("<?xml") && text.find("</plist>") == text.npos;
 }
 
+// A phone knows no such form. Its reader makes room for as many items as the file says that it holds.
+bool isGnustepsOwnForm(std::string_view bytes) { return bytes.starts_with('\0') || bytes.starts_with('\1'); }
+
 id textPropertyListIn(std::string_view text) {
-  if (isXmlCutOff(text)) return nil;
+  if (isXmlCutOff(text) || isGnustepsOwnForm(text)) return nil;
   const std::size_t containers = occurrences(text, "<array") + occurrences(text, "<dict") +
                                  occurrences(text, "(") + occurrences(text, "{");
   if (containers > kMostContainers) return nil;
@@ -100,6 +106,8 @@ class XmlWriter {
   }
 
   bool date(NSDate* value) {
+    // A binary property list may hold any number for a date, no number included.
+    if (!(std::abs([value timeIntervalSince1970]) < kFarthestDate)) return false;
     const auto seconds = static_cast<std::time_t>([value timeIntervalSince1970]);
     std::tm parts{};
     char formatted[40];
