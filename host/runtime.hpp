@@ -247,4 +247,11 @@ auto sendToClass(Class type, Arguments&&... arguments) {
                                   std::forward<Arguments>(arguments)...);
 }
 
+/// The same for a method that the class may lack: without it, it answers zero as well.
+template <Name Selector, class Signature, class... Arguments>
+auto trySendToClass(Class type, Arguments&&... arguments) {
+  return Object(reinterpret_cast<id>(type))
+      .trySend<Selector, Signature>(std::forward<Arguments>(arguments)...);
+}
+
 }  // namespace velvault12
