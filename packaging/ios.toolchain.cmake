@@ -18,6 +18,8 @@ if(EXISTS ${CMAKE_OSX_SYSROOT}/usr/include/c++/v1)
 else()
   set(CMAKE_CXX_FLAGS_INIT -stdlib=libc++)
 endif()
+# Instructions that stand in many functions are kept once: the library is mapped into every app.
+string(APPEND CMAKE_CXX_FLAGS_INIT " -moutline")
 if(NOT CMAKE_HOST_APPLE)
   set(CMAKE_SHARED_LINKER_FLAGS_INIT "-fuse-ld=lld -Wl,-fatal_warnings")
 endif()
