@@ -29,7 +29,10 @@ void AlbumLock::removeLock(std::string_view title) {
 }
 
 void AlbumLock::save() {
-  outdated_.push_back(std::exchange(expected_, titles_.all()));
+  // Once each: where nobody saves, this is all that happens, time and again.
+  if (std::find(outdated_.begin(), outdated_.end(), expected_) == outdated_.end())
+    outdated_.push_back(expected_);
+  expected_ = titles_.all();
   saveArray(titles_.all(), kLockedAlbumsFile);
 }
 
