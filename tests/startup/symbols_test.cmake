@@ -13,7 +13,7 @@ endforeach()
 # This platform's Objective-C and blocks runtimes.
 set(RUNTIMES "^(objc_|object_|class_|sel_|_NSConcrete|_Block_)")
 # Versioned symbols are those of the C and C++ runtimes; sanitizers bring their own.
-set(LANGUAGE "@(GLIBC|GLIBCXX|CXXABI|GCC)_|^(__asan_|__ubsan_|__sanitizer_|__sancov_)|^(__gmon_start__|_ITM_|__cxa_finalize)")
+set(LANGUAGE "@(GLIBC|GLIBCXX|CXXABI|GCC)_|^(__asan_|__ubsan_|__tsan_|__sanitizer_|__sancov_)|^(__gmon_start__|_ITM_|__cxa_finalize)")
 
 execute_process(COMMAND ${NM} -D --undefined-only ${LIBRARY} OUTPUT_VARIABLE undefined COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "[^\n]+" lines "${undefined}")
