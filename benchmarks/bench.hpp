@@ -9,7 +9,8 @@
 
 namespace velvault12::benchmarks {
 
-/// What one version of a case took: the median of its repetitions.
+/// What one version of a case took: the quickest of its repetitions, since whatever else runs on the machine
+/// only ever adds to them.
 struct Figure {
   std::string name;
   Version version;

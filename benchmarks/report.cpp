@@ -99,49 +99,60 @@ std::string rowText(const Row& row) {
                timeText(row.of(Version::straightforward)), ratio, goal.text, reached});
 }
 
-/// `collections` with that many locked albums, by the number of albums.
+/// `collections` with about as many locked albums, by the number of albums.
 struct Growth {
-  std::string locked;
-  std::vector<std::pair<double, Row>> rows;
+  struct Point {
+    int albums;
+    int locked;
+    Row row;
+  };
+  std::vector<Point> points;
+
+  int mostLocked() const { return points.back().locked; }
 };
 
+/// One for each number of locked albums; the smallest libraries have fewer than the greatest such number.
 std::vector<Growth> growths(const std::vector<Row>& rows) {
   std::vector<Growth> all;
+  std::size_t index = 0;
+  int before = 0;
   for (const Row& row : rows) {
-    int albums = 0;
-    int locked = 0;
-    if (std::sscanf(row.name.c_str(), "collections: %d albums, %d locked", &albums, &locked) != 2) continue;
-    // A library of ten has ten locked albums where others have a hundred.
-    const std::string many = locked > 1 ? "all, at most 100" : std::to_string(locked);
-    const auto known = std::ranges::find(all, many, &Growth::locked);
-    Growth& growth = known == all.end() ? all.emplace_back(Growth{many, {}}) : *known;
-    growth.rows.emplace_back(albums, row);
+    Growth::Point point{0, 0, row};
+    if (std::sscanf(row.name.c_str(), "collections: %d albums, %d locked", &point.albums, &point.locked) != 2)
+      continue;
+    index = point.albums == before ? index + 1 : 0;
+    before = point.albums;
+    if (index == all.size()) all.emplace_back();
+    all[index].points.push_back(std::move(point));
   }
   return all;
 }
 
-const Row* rowOf(const Growth& growth, double albums) {
-  for (const auto& [count, row] : growth.rows) {
-    if (count == albums) return &row;
-  }
-  return nullptr;
-}
-
 std::string growthText(const Growth& growth) {
-  const Row* const few = rowOf(growth, 100);
-  const Row* const some = rowOf(growth, 1'000);
-  const Row* const many = rowOf(growth, 10'000);
   std::string lines;
-  if (few && many && few->of(Version::library) && many->of(Version::library)) {
-    const double exponent =
-        std::log10(*many->of(Version::library) / *few->of(Version::library)) / std::log10(10'000.0 / 100);
-    lines +=
-        line({"exponent of the library's growth from 100 to 10,000 albums, locked: " + growth.locked,
-              text("%.2f", exponent), text("at most %.2f", kGrowthGoal), verdict(exponent <= kGrowthGoal)});
+  const std::string locked = std::to_string(growth.mostLocked()) + " locked";
+  // A library whose albums are all locked has nothing left to be fetched, so that no other grows from it.
+  const auto first = std::ranges::find_if(
+      growth.points, [](const auto& point) { return point.albums >= 100 && point.locked < point.albums; });
+  if (first != growth.points.end() && first->albums < growth.points.back().albums) {
+    const auto& last = growth.points.back();
+    const auto few = first->row.of(Version::library);
+    const auto many = last.row.of(Version::library);
+    if (few && many) {
+      const double exponent =
+          std::log(*many / *few) / std::log(static_cast<double>(last.albums) / first->albums);
+      lines +=
+          line({text("exponent of the library's growth from %d to %d albums, ", first->albums, last.albums) +
+                    locked,
+                text("%.2f", exponent), text("at most %.2f", kGrowthGoal), verdict(exponent <= kGrowthGoal)});
+    }
   }
-  if (some && some->of(Version::straightforward) && some->of(Version::library)) {
-    const double times = *some->of(Version::straightforward) / *some->of(Version::library);
-    lines += line({"straightforward / library at 1,000 albums, locked: " + growth.locked, text("%.1f", times),
+  for (const auto& [albums, lockedHere, row] : growth.points) {
+    const auto straightforward = row.of(Version::straightforward);
+    const auto library = row.of(Version::library);
+    if (albums != 1'000 || !straightforward || !library) continue;
+    const double times = *straightforward / *library;
+    lines += line({"straightforward / library, 1000 albums, " + locked, text("%.1f", times),
                    text("at least %.0f", kStraightforwardGoal), verdict(times >= kStraightforwardGoal)});
   }
   return lines;
@@ -194,7 +205,7 @@ std::string curve(const Growth& growth, Version version) {
   std::string points;
   std::string dots;
   double last = 0;
-  for (const auto& [albums, row] : growth.rows) {
+  for (const auto& [albums, locked, row] : growth.points) {
     const std::optional<double> seconds = row.of(version);
     if (!seconds) continue;
     last = y(*seconds);

@@ -1,7 +1,9 @@
 #include "benchmarks/startup/constructor_benchmark.hpp"
 
 #include <dlfcn.h>
+#include <malloc.h>
 
+#include <fstream>
 #include <sstream>
 #include <stdexcept>
 
@@ -62,35 +64,109 @@ void beAHost() {
   observeDarwinNotification<ignore>("org.example.other", SuspensionBehavior::deliverImmediately);
 }
 
-double secondsToLoad(const Phone& phone, std::string_view app, const char* library) {
+void load(const char* library) {
+  if (dlopen(library, RTLD_NOW | RTLD_LOCAL) == nullptr) throw std::runtime_error(dlerror());
+}
+
+/// What a process that is about to become that app says of the loading.
+std::string askOfLoading(const Phone& phone, std::string_view app,
+                         const std::function<std::string()>& loading) {
   const ForkedProcess process([&](const ForkedProcess& test) {
     device::become({phone.device.folder(), std::string(app)});
     const AutoreleasePool pool;
     beAHost();
-    test.say(std::to_string(secondsOf([library] {
-      if (dlopen(library, RTLD_NOW | RTLD_LOCAL) == nullptr) throw std::runtime_error(dlerror());
-    })));
+    test.say(loading());
   });
-  return std::stod(process.hear());
+  return process.hear();
+}
+
+double secondsToLoad(const Phone& phone, std::string_view app, const char* library) {
+  return std::stod(askOfLoading(
+      phone, app, [library] { return std::to_string(secondsOf([library] { load(library); })); }));
+}
+
+/// Numbers of one process.
+struct Memory {
+  std::int64_t heap = 0;
+  std::int64_t written = 0;
+  std::int64_t mapped = 0;
+};
+
+std::int64_t heapBytes() {
+  const auto heap = mallinfo2();
+  return static_cast<std::int64_t>(heap.uordblks + heap.hblkhd);
+}
+
+/// Of the mappings of that file.
+Memory mappedFrom(const std::string& file) {
+  constexpr std::int64_t kKilobyte = 1024;
+  Memory memory;
+  std::ifstream maps("/proc/self/smaps");
+  bool isItsOwn = false;
+  for (std::string line; std::getline(maps, line);) {
+    std::istringstream words(line);
+    std::string key;
+    std::int64_t kilobytes = 0;
+    words >> key;
+    // A mapping begins with its addresses and ends with its file.
+    if (key.find('-') != key.npos) isItsOwn = line.ends_with(file);
+    if (!isItsOwn || !(words >> kilobytes)) continue;
+    if (key == "Size:") memory.mapped += kilobytes * kKilobyte;
+    if (key == "Private_Dirty:") memory.written += kilobytes * kKilobyte;
+  }
+  return memory;
+}
+
+Memory memoryToLoad(const Phone& phone, std::string_view app, const char* library) {
+  std::istringstream told(askOfLoading(phone, app, [library] {
+    const std::int64_t before = heapBytes();
+    load(library);
+    const std::int64_t heap = heapBytes() - before;
+    const Memory mapped = mappedFrom(library);
+    return std::to_string(heap) + ' ' + std::to_string(mapped.written) + ' ' + std::to_string(mapped.mapped);
+  }));
+  Memory memory;
+  told >> memory.heap >> memory.written >> memory.mapped;
+  return memory;
+}
+
+void choose(const Phone& phone) {
+  phone.device.writePreferences(
+      {{"passOption", 1}, {"hideFoldersInApps", false}, {"albumNameHolidays", false}});
+  phone.lock({"Holidays", "Pets"});
 }
 
 }  // namespace
 
 Figures measureLoading() {
-  Phone phone;
-  phone.device.writePreferences(
-      {{"passOption", 1}, {"hideFoldersInApps", false}, {"albumNameHolidays", false}});
-  phone.lock({"Holidays", "Pets"});
+  const Phone phone;
+  choose(phone);
   Versions versions;
   Bench bench(versions);
   for (const auto& [name, app] : kHosts) {
-    const auto load = [&phone, app = app, rows = rowsIn(phone, app)](Version version) {
+    const auto seconds = [&phone, app = app, rows = rowsIn(phone, app)](Version version) {
       emptyRows = rows;
       return secondsToLoad(phone, app, version == Version::floor ? EMPTY_LIBRARY : VELVAULT12_LIBRARY);
     };
-    bench.addTimed(std::string("load: ") + name, {Version::floor, Version::library}, 10, load);
+    bench.addTimed(std::string("load: ") + name, {Version::floor, Version::library}, 10, seconds);
   }
   return bench.figures();
+}
+
+std::string memoryReport() {
+  const Phone phone;
+  choose(phone);
+  std::ostringstream table;
+  table
+      << "| bytes added to | heap, floor | heap, library | pages written | mapped |\n|---|---|---|---|---|\n";
+  for (const auto& [name, app] : kHosts) {
+    emptyRows = rowsIn(phone, app);
+    const Memory floor = memoryToLoad(phone, app, EMPTY_LIBRARY);
+    const Memory library = memoryToLoad(phone, app, VELVAULT12_LIBRARY);
+    table << "| " << name << " | " << floor.heap << " | " << library.heap << " | " << library.written << " | "
+          << library.mapped << " |\n";
+  }
+  return table.str();
 }
 
 }  // namespace velvault12::benchmarks
