@@ -38,10 +38,8 @@ class Gatherer : public benchmark::BenchmarkReporter {
   std::map<std::string, std::vector<double>> all_;
 };
 
-constexpr std::string_view kNames[] = {"host", "floor", "library", "straightforward"};
-
 std::string benchmarkName(std::string_view name, Version version) {
-  return std::string(name) + "/" + std::string(kNames[static_cast<std::size_t>(version)]);
+  return std::string(name) + "/" + kVersionNames[static_cast<std::size_t>(version)];
 }
 
 }  // namespace

@@ -18,8 +18,8 @@ struct Figure {
 };
 using Figures = std::vector<Figure>;
 
-/// Measures the cases of one process with Google Benchmark, the repetitions of all versions of all cases in
-/// random order, so that what slows the machine down for a while slows all of them.
+/// Measures the cases of one process with Google Benchmark, the repetitions of all versions of all that was
+/// added in random order, so that what slows the machine down for a while slows all of them.
 class Bench {
  public:
   explicit Bench(Versions& versions) : versions_(versions) {}

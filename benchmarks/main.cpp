@@ -119,10 +119,17 @@ int main(int argc, char** argv) {
     std::cerr << error.what() << '\n';
     return 1;
   }
+  const bool isMemoryChosen = std::string_view("memory").find(chosen) != std::string_view::npos;
+  if (all.empty() && !isMemoryChosen) {
+    std::cerr << "No group is named so. There are:\n";
+    for (const Group& group : kGroups) std::cerr << "  " << group.name << '\n';
+    std::cerr << "  memory\n";
+    return 2;
+  }
   if (!all.empty()) std::cout << report(all);
-  if (std::string_view("memory").find(chosen) != std::string_view::npos) std::cout << '\n' << memoryReport();
+  if (isMemoryChosen) std::cout << '\n' << memoryReport();
   // Of some groups alone there is no growth to draw.
   if (!chosen.empty()) return 0;
-  std::ofstream(BENCH_PLOT) << growthPlot(all);
+  if (!(std::ofstream(BENCH_PLOT) << growthPlot(all))) return 1;
   std::cerr << "Growth: " << BENCH_PLOT << '\n';
 }

@@ -92,7 +92,7 @@ std::string rowText(const Row& row) {
   if (goal.kind == Goal::Kind::secondsOverFloor && floor && library)
     reached = verdict(*library - *floor <= goal.limit);
   if (goal.kind == Goal::Kind::secondsOverHost && host && library) {
-    ratio = text("host + %.1f ns", (*library - *host) * 1e9);
+    ratio = text("host %+.1f ns", (*library - *host) * 1e9);
     reached = verdict(*library - *host <= goal.limit);
   }
   return line({row.name, timeText(host), timeText(floor), timeText(library),
@@ -168,7 +168,6 @@ constexpr double kMost = 4;       // at the right one
 constexpr double kShortest = -5;  // at the bottom: 10 µs
 constexpr double kLongest = 2;    // at the top
 constexpr const char* kColors[] = {"#8a8f98", "#3b7dd8", "#1b9e57", "#d1495b"};
-constexpr const char* kNames[] = {"host", "floor", "library", "straightforward"};
 
 double x(double albums) {
   return kMargin + (std::log10(albums) - kFewest) / (kMost - kFewest) * (kWidth - kMargin - kNamesWidth);
@@ -218,7 +217,7 @@ std::string curve(const Growth& growth, Version version) {
   return text("<polyline points=\"%s\" fill=\"none\" stroke=\"%s\" stroke-width=\"2\"/>\n", points.c_str(),
               kColors[index]) +
          dots + text("<g fill=\"%s\">", kColors[index]) +
-         svgText(kWidth - kNamesWidth + 8, last + shift, "start", kNames[index]) + "</g>\n";
+         svgText(kWidth - kNamesWidth + 8, last + shift, "start", kVersionNames[index]) + "</g>\n";
 }
 
 }  // namespace
@@ -241,8 +240,9 @@ std::string growthPlot(const Figures& figures) {
       "font-family=\"sans-serif\" font-size=\"12\">\n"
       "<rect width=\"100%%\" height=\"100%%\" fill=\"white\"/>\n",
       kWidth, kHeight);
-  svg += svgText(kWidth / 2, 28, "middle",
-                 "One call of collections, by the number of albums in the library, 100 of them locked");
+  svg +=
+      svgText(kWidth / 2, 28, "middle",
+              "One call of collections, by the number of albums in the library, at most 100 of them locked");
   svg += svgText(kWidth / 2, kHeight - 16, "middle", "albums");
   svg += grid();
   const std::vector<Growth> all = growths(rowsOf(figures));

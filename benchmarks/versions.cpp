@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 namespace velvault12 {
@@ -28,6 +29,7 @@ void Versions::define(Version version, const std::function<void()>& install) {
   use(Version::host);
   changesMade().clear();
   install();
+  if (changesMade().empty()) throw std::runtime_error("a version that changes nothing");
   changes_[version] = std::exchange(changesMade(), {});
   inUse_ = version;
   use(Version::host);

@@ -14,7 +14,7 @@
 #include "host/hook.hpp"
 #include "host/uikit.hpp"
 
-#if __has_feature(address_sanitizer)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
 #include <sanitizer/allocator_interface.h>
 #endif
 
@@ -33,7 +33,7 @@ constexpr int kRounds = 4;
 constexpr int kCallsBetweenRests = 32;
 
 std::int64_t heapBytes() {
-#if __has_feature(address_sanitizer)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
   return static_cast<std::int64_t>(__sanitizer_get_current_allocated_bytes());
 #else
   const auto heap = mallinfo2();

@@ -17,7 +17,7 @@ struct Driver {
   std::string_view selector;
   std::function<void()> call;
   /// Tells the drivers of one hook apart.
-  std::string_view way = "";
+  std::string_view way{};
 };
 
 /// The drivers of one app's hooks. A hook whose method takes nothing but numbers needs none of its own.

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -59,11 +60,21 @@ void fill(Phone& phone, int albums) {
   });
 }
 
-/// Titles from all over the library.
+/// Titles from all over the library, one alone from its middle.
 std::vector<std::string> lockedTitles(int count, int albums) {
   std::vector<std::string> titles;
-  for (int i = 0; i < std::min(count, albums); ++i) titles.push_back(titleOf(i * albums / count % albums));
+  for (int i = 0; i < count; ++i) titles.push_back(titleOf((2 * i + 1) * albums / (2 * count)));
   return titles;
+}
+
+/// All versions must come to the same, but for the folders that stand among the albums.
+void expectListed(PHCollectionList root, Versions& versions, Version version, int albums) {
+  const AutoreleasePool pool;
+  versions.use(version);
+  int listed = 0;
+  for (const Object each : root.send<"collections", NSArray()>())
+    listed += each.isKindOf(PHAssetCollection::hostClass()) ? 1 : 0;
+  if (listed != albums) throw std::runtime_error(std::to_string(listed) + " albums are listed");
 }
 
 }  // namespace
@@ -87,10 +98,13 @@ Figures measureListedCollections(int albums) {
 
   Bench bench(versions);
   Figures all;
-  for (const int locked : {0, 1, 100}) {
+  for (const int most : {0, 1, 100}) {
+    const int locked = std::min(most, albums);
     phone.lock(lockedTitles(locked, albums));
-    const std::string name = "collections: " + std::to_string(albums) + " albums, " +
-                             std::to_string(std::min(locked, albums)) + " locked";
+    for (const Version version : {Version::floor, Version::library, Version::straightforward})
+      expectListed(root, versions, version, albums - locked);
+    const std::string name =
+        "collections: " + std::to_string(albums) + " albums, " + std::to_string(locked) + " locked";
     bench.add(name, {Version::host, Version::floor, Version::library, Version::straightforward},
               [root](Version) { root.send<"collections", NSArray()>(); });
     std::ranges::move(bench.figures(), std::back_inserter(all));

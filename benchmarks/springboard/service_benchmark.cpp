@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <optional>
+#include <sstream>
 #include <stdexcept>
 #include <utility>
 
@@ -30,6 +31,14 @@ double now() {
   return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
+/// Of seconds, to the nanosecond.
+std::string text(double seconds) {
+  std::ostringstream out;
+  out.precision(9);
+  out << std::fixed << seconds;
+  return out.str();
+}
+
 // SpringBoard without the library: what takes the messages does nothing, or nothing but what it is asked for.
 
 constexpr std::string_view kSentAt = "sentAt";
@@ -37,7 +46,7 @@ constexpr std::string_view kSentAt = "sentAt";
 const ForkedProcess* bench = nullptr;
 
 void tellLatency(Object, NSString, Object userInfo) {
-  bench->say(std::to_string(now() - std::stod(*stringValue(NSDictionary(userInfo.get())[kSentAt]))));
+  bench->say(text(now() - std::stod(*stringValue(NSDictionary(userInfo.get())[kSentAt]))));
 }
 void saveOnly(Object, NSString, Object userInfo) {
   const NSDictionary request(userInfo.get());
@@ -103,18 +112,20 @@ ForkedProcess::Life sender(const Phone& phone, Version version) {
     request->set(key::kArray, NSArray::from(kArray));
     request->set(key::kPath, NSString::from(kLockedAlbumsFile));
     const Replacements replacements(phone.device.onDisk(kLockedAlbumsFile).parent_path());
-    while (!test.hear().empty()) {
+    while (true) {
+      // The others may be measured for longer than anybody listens.
+      if (test.hear().empty()) continue;
       const AutoreleasePool turn;
       const double start = now();
       if (version == Version::library) {
         saveArray(kArray, kLockedAlbumsFile);
       } else {
-        if (version == Version::host) request->set(kSentAt, NSString::from(std::to_string(start)));
+        if (version == Version::host) request->set(kSentAt, NSString::from(text(start)));
         center.sendMessage(kSaveArrayMessage, request.get());
       }
       if (version == Version::host) continue;
       replacements.wait();
-      test.say(std::to_string(now() - start));
+      test.say(text(now() - start));
     }
   };
 }
@@ -132,8 +143,9 @@ Waiting& waiting() {
 }
 
 void selectWhenAgreed(PUAlbumListViewController list, Replaced<void(NSIndexPath)> host, NSIndexPath path) {
+  static const Ref<NSSet> locked = readLockedTitles();
   const auto album = list.collectionAtIndexPath(path);
-  if (!readLockedTitles()->containsObject(album.localizedTitle())) return host(path);
+  if (!locked->containsObject(album.localizedTitle())) return host(path);
   waiting() = {list, Ref(path), host};
   const auto request = makeObject<NSMutableDictionary>();
   request->set(key::kAlbumName, album.localizedTitle());
@@ -160,18 +172,23 @@ ForkedProcess::Life photos(const Phone& phone, Version version) {
     const auto isOpen = [&] { return !PhotosApp::albumList(); };
     const NSInteger last = PhotosApp::firstAlbum() + PhotosApp::kAlbums - 1;
     test.say("ready");
-    while (!test.hear().empty()) {
+    while (true) {
+      if (test.hear().empty()) continue;
       const AutoreleasePool turn;
       const double start = now();
       list.select(PhotosApp::pathTo(last));
       if (!device::runUntil(isOpen, device::kPatience)) throw std::runtime_error("no album has opened");
-      test.say(std::to_string(now() - start));
+      test.say(text(now() - start));
       PhotosApp::navigation().send<"popViewControllerAnimated:", Object(bool)>(false);
     }
   };
 }
 
-double secondsFrom(const ForkedProcess& process) { return std::stod(process.hear()); }
+double secondsFrom(const ForkedProcess& process) {
+  const std::string told = process.hear();
+  if (told.empty()) throw std::runtime_error("nothing came of a message");
+  return std::stod(told);
+}
 
 /// A phone in one version: its processes.
 struct RunningPhone {

@@ -81,8 +81,9 @@ std::string askOfLoading(const Phone& phone, std::string_view app,
 }
 
 double secondsToLoad(const Phone& phone, std::string_view app, const char* library) {
-  return std::stod(askOfLoading(
-      phone, app, [library] { return std::to_string(secondsOf([library] { load(library); })); }));
+  return 1e-9 * std::stod(askOfLoading(phone, app, [library] {
+           return std::to_string(1e9 * secondsOf([library] { load(library); }));
+         }));
 }
 
 /// Numbers of one process.

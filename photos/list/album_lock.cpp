@@ -29,7 +29,7 @@ void AlbumLock::removeLock(std::string_view title) {
 }
 
 void AlbumLock::save() {
-  // Once each: where nobody saves, this is all that happens, time and again.
+  // Once each: while nobody saves, the same states come again and again.
   if (std::find(outdated_.begin(), outdated_.end(), expected_) == outdated_.end())
     outdated_.push_back(expected_);
   expected_ = titles_.all();

@@ -21,7 +21,7 @@ namespace velvault12 {
 namespace {
 
 constexpr int kSenders = 8;
-#if __has_feature(address_sanitizer)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
 constexpr int kMessages = 4'000;
 #else
 constexpr int kMessages = 10'000;

@@ -24,11 +24,19 @@ class AuthenticationTarget : public Fuzzed<PhoneTest> {
       me_.answerOwnerRequest(owner);
       turn();
       if (owner == device::OwnerAnswer::cancel) EXPECT_FALSE(hasFile(kAnswer));
+      if (owner == device::OwnerAnswer::success && isPlain(request)) EXPECT_TRUE(hasFile(kAnswer));
       if (hasFile(kAnswer)) expectAgreement(NSDictionary::contentsOfFile(kAnswer));
     }
   }
 
  private:
+  /// There are values that no file can hold.
+  static bool isPlain(NSDictionary request) {
+    bool isIt = true;
+    for (const Object key : request.allKeys())
+      isIt = isIt && isPlainText(key) && isPlainText(request.objectForKey(NSString(key.get())));
+    return isIt;
+  }
   static void expectAgreement(NSDictionary answer) {
     EXPECT_TRUE((answer["success"].send<"boolValue", bool()>()));
     EXPECT_EQ(stringOr("", answer["id"]), device::kSpringBoard);

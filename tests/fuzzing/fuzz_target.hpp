@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cctype>
 #include <memory>
 #include <string_view>
 
@@ -43,6 +45,11 @@ inline bool isStringOrNumber(Object value) {
 }
 inline std::string stringOr(std::string_view otherwise, Object value) {
   return isString(value) ? NSString(value.get()).utf8() : std::string(otherwise);
+}
+/// Letters alone, which every file and every form of a property list can hold.
+inline bool isPlainText(Object value) {
+  const std::string text = stringOr("", value);
+  return !text.empty() && std::ranges::all_of(text, [](unsigned char c) { return std::isalpha(c) != 0; });
 }
 /// Whether a file of the phone is an array with that text among its elements.
 inline bool fileHolds(std::string_view path, std::string_view text) {

@@ -8,13 +8,14 @@
 namespace velvault12 {
 namespace {
 
+constexpr std::string_view kFolder = "/var/mobile/Library/velvault/";
+
 int attempts = 0;
 bool isSaved = false;
 
 /// SpringBoard writes wherever it is told to; here, paths that may lead out of the phone's folder lead
 /// nowhere.
 bool writeOnPhone(NSArray, Replaced<bool(NSString, bool)> host, NSString path, bool atomically) {
-  constexpr std::string_view kFolder = "/var/mobile/Library/velvault/";
   constexpr std::string_view kPlain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ.";
   const std::string name = path.utf8();
   const bool isPhones =
@@ -44,6 +45,7 @@ class SavingTarget : public Fuzzed<PhoneTest> {
     const NSArray array(request["array"].get());
     const bool isWhole = isOfClass(array, NSArray::hostClass()) && isString(request["path"]);
     EXPECT_EQ(attempts, isWhole ? 1 : 0);
+    if (isWhole && isPlain(array, stringOr("", request["path"]))) EXPECT_TRUE(isSaved);
     if (!isSaved) return;
     const std::string path = stringOr("", request["path"]);
     const Ref<NSArray> saved = NSArray::contentsOfFile(path);
@@ -51,6 +53,14 @@ class SavingTarget : public Fuzzed<PhoneTest> {
     EXPECT_EQ(saved->count(), array.count());
     EXPECT_EQ(saved->strings(), array.strings());
     remove(path);
+  }
+
+ private:
+  /// There are values that no file can hold, and paths where none can be.
+  static bool isPlain(NSArray array, const std::string& path) {
+    bool isIt = path.starts_with(kFolder) && isPlainText(NSString::from(path.substr(kFolder.size())));
+    for (const Object each : array) isIt = isIt && isPlainText(each);
+    return isIt;
   }
 };
 

@@ -60,7 +60,9 @@ class Without : public App, public ::testing::WithParamInterface<MissingMethod> 
   bool isLost() const { return isLost_; }
   /// Waits until it holds, where it is to come at all.
   bool comesTrue(const std::function<bool()>& condition) const {
-    return isLost_ ? condition() : App::soon(condition);
+    if (!isLost_) return App::soon(condition);
+    App::settle();
+    return condition();
   }
 
  private:

@@ -365,7 +365,7 @@ class PhotosWithout : public Without<PhotosApp> {
     const auto titleAt = [&] {
       return strip().gadgetAtIndexPath(pathTo(item)).trySend<"title", NSString()>().utf8();
     };
-    while (titleAt() != "Pets") ++item;
+    while (item < 10 && titleAt() != "Pets") ++item;
     strip().select(pathTo(item));
     reload({});
     return openAlbum().empty() && isAllowedByOwner();

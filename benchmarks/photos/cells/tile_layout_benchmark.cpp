@@ -1,3 +1,5 @@
+#include <array>
+
 #include "benchmarks/floor.hpp"
 #include "benchmarks/photos/photos_app.hpp"
 #include "benchmarks/photos/photos_benchmark.hpp"
@@ -79,7 +81,12 @@ Figures measureTileLayout() {
 
   Bench bench(versions);
   for (const bool isLocked : {false, true}) {
-    const auto layOut = [tileOf, isLocked](Version version) { tileOf(version, isLocked).layoutSubviews(); };
+    std::array<Ref<PUAlbumListCellContentView>, kVersions> tiles;
+    for (const Version version : {Version::host, Version::floor, Version::library})
+      tiles[static_cast<std::size_t>(version)] = Ref(tileOf(version, isLocked));
+    const auto layOut = [tiles](Version version) {
+      tiles[static_cast<std::size_t>(version)]->layoutSubviews();
+    };
     bench.add(isLocked ? "tile: locked album" : "tile: shown album",
               {Version::host, Version::floor, Version::library}, layOut);
   }

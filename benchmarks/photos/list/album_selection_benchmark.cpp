@@ -9,8 +9,10 @@ namespace velvault12::benchmarks {
 namespace {
 
 void floorOfSelection(PUAlbumListViewController list, Replaced<void(NSIndexPath)> host, NSIndexPath path) {
+  // Read when the list appeared, not by each selection.
+  static const Ref<NSSet> locked = readLockedTitles();
   const auto album = list.send<"collectionAtIndexPath:", PHCollection(NSIndexPath)>(path);
-  if (!readLockedTitles()->containsObject(album.localizedTitle())) host(path);
+  if (!locked->containsObject(album.localizedTitle())) host(path);
 }
 
 }  // namespace
