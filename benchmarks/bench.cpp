@@ -56,7 +56,7 @@ void Bench::add(std::string_view name, std::initializer_list<Version> versions,
     };
     auto* const registered = benchmark::RegisterBenchmark(benchmarkName(name, version).c_str(), measure);
     // It takes seconds where the others take milliseconds, and nothing depends on its last digit.
-    if (version == Version::straightforward) registered->Repetitions(3);
+    if (version == Version::straightforward) registered->Repetitions(1);
     entries_.push_back({std::string(name), version, calls});
   }
 }

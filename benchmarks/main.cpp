@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -91,6 +92,12 @@ Figures measureInOwnProcess(const Group& group) {
   return read(in);
 }
 
+/// Both are of the same cases.
+void takeQuicker(const Figures& others, Figures& figures) {
+  for (std::size_t i = 0; i < figures.size(); ++i)
+    figures[i].seconds = std::min(figures[i].seconds, others.at(i).seconds);
+}
+
 }  // namespace
 
 }  // namespace velvault12::benchmarks
@@ -98,7 +105,7 @@ Figures measureInOwnProcess(const Group& group) {
 int main(int argc, char** argv) {
   using namespace velvault12::benchmarks;
   // What the command line says comes last and so counts.
-  std::vector<std::string> words{argv[0], "--benchmark_repetitions=25", "--benchmark_min_time=0.02",
+  std::vector<std::string> words{argv[0], "--benchmark_repetitions=9", "--benchmark_min_time=0.02",
                                  "--benchmark_enable_random_interleaving=true"};
   words.insert(words.end(), argv + 1, argv + argc);
   std::vector<char*> arguments;
@@ -111,9 +118,13 @@ int main(int argc, char** argv) {
   Figures all;
   try {
     for (const Group& group : kGroups) {
+      // Where a process's memory happens to lie makes it faster or slower for all its life.
+      constexpr int kProcesses = 3;
       if (std::string_view(group.name).find(chosen) == std::string_view::npos) continue;
       std::cerr << "Measuring " << group.name << '\n';
-      std::ranges::move(measureInOwnProcess(group), std::back_inserter(all));
+      Figures quickest = measureInOwnProcess(group);
+      for (int i = 1; i < kProcesses; ++i) takeQuicker(measureInOwnProcess(group), quickest);
+      std::ranges::move(quickest, std::back_inserter(all));
     }
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
