@@ -58,7 +58,11 @@ class SavingTarget : public Fuzzed<PhoneTest> {
  private:
   /// There are values that no file can hold, and paths where none can be.
   static bool isPlain(NSArray array, const std::string& path) {
-    bool isIt = path.starts_with(kFolder) && isPlainText(NSString::from(path.substr(kFolder.size())));
+    // A name with an extension, as those of the shared files.
+    const auto dot = path.rfind('.');
+    bool isIt = path.starts_with(kFolder) && dot != path.npos && dot > kFolder.size() &&
+                isPlainText(NSString::from(path.substr(kFolder.size(), dot - kFolder.size()))) &&
+                isPlainText(NSString::from(path.substr(dot + 1)));
     for (const Object each : array) isIt = isIt && isPlainText(each);
     return isIt;
   }
