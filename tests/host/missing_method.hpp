@@ -2,63 +2,76 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "host/reference.hpp"
+#include "tests/host/host_methods.hpp"
+#include "tests/hurried_timers.hpp"
 
 namespace velvault12 {
 
-/// A method of the host that a version of it may lack, and what is lost without it: the parts of the story,
-/// with commas between. An empty one is a host that lacks nothing.
-struct MissingMethod {
-  std::string_view className;
-  /// A class's own method begins with a plus.
-  std::string_view selector;
-  std::string_view lost;
+/// Hides the method from the library, before that is loaded: it can neither replace nor send it, and sending
+/// it without having asked for it fails the test. The host keeps it.
+void hideFromLibrary(const HostMethod& method);
+/// Whether the library has asked for the hidden method.
+bool wasAskedFor();
+
+/// What the library holds: references to objects, and blocks of memory. An initializer of the host that
+/// returns nil counts as kept, since its object is gone without the library.
+struct Holdings {
+  std::int64_t references = 0;
+  std::int64_t blocks = 0;
+  bool operator==(const Holdings&) const = default;
 };
+void PrintTo(const Holdings& holdings, std::ostream* out);
+Holdings holdings();
 
-/// Takes the method away from the library, before that is loaded: it can neither replace it nor send it, and
-/// sending it without having asked is a failure of the test. The host keeps it: another version does without,
-/// but this one was not written to. One that every version has is sent all the same.
-void hideFromLibrary(const MissingMethod& method);
-/// Whether the library has come to ask for it.
-bool wasMissed();
+/// The host's methods that a version may lack, and at first none, for a host that lacks nothing.
+std::vector<std::optional<HostMethod>> missingMethodsOf(std::string_view host);
+std::string nameOf(const ::testing::TestParamInfo<std::optional<HostMethod>>& info);
 
-/// Whether every version of the host has it, of all that the library sends.
-bool isPublic(std::string_view selector);
-
-/// An app whose host lacks one method. Its story is told in parts, none of which needs the one before.
+/// An app whose host lacks one method. Its features can be tried in any order, and again.
 template <class App>
-class Without : public App, public ::testing::WithParamInterface<MissingMethod> {
+class MissingMethodTest : public App, public ::testing::WithParamInterface<std::optional<HostMethod>> {
  protected:
-  struct Part {
-    std::string_view name;
+  struct Feature {
+    std::string name;
     std::function<bool()> works;
   };
 
-  Without() { hideFromLibrary(GetParam()); }
-
-  /// Plays each part, and compares what is lost with what may be.
-  void play(std::span<const Part> story) {
-    const std::string lost = ", " + std::string(GetParam().lost) + ",";
-    for (const Part& part : story) {
-      isLost_ = lost.find(", " + std::string(part.name) + ",") != std::string::npos;
-      std::string why;
-      bool works = false;
-      try {
-        works = part.works();
-      } catch (const std::runtime_error& error) {
-        why = error.what();
-      }
-      EXPECT_EQ(works, !isLost_) << part.name << ": " << why;
-    }
-    if (!GetParam().className.empty()) EXPECT_TRUE(wasMissed()) << "nobody has asked for it";
+  MissingMethodTest() {
+    if (this->GetParam()) hideFromLibrary(*this->GetParam());
   }
-  /// Whether the part that is being played is to fail.
+
+  /// Expects exactly those features to fail that need the method. Where nothing is missing, expects the
+  /// library to hold no more after a feature than before, once `reset` has brought the app where it was.
+  void run(
+      std::span<const Feature> features, const std::function<void()>& reset = [] {}) {
+    for (const Feature& feature : features) tryOut(feature);
+    if (this->GetParam()) {
+      EXPECT_TRUE(wasAskedFor());
+      return;
+    }
+    // The first time, what the library keeps for good has come.
+    std::vector<Holdings> before;
+    for (const Feature& feature : features) before.push_back(holdingsAfter(feature, reset));
+    for (std::size_t i = 0; i < features.size(); ++i) {
+      Holdings after = holdingsAfter(features[i], reset);
+      // The host may keep a used tile, with the library's views in it, or not. What leaks only grows.
+      for (int again = 0; again < 3 && after != before[i]; ++again) after = holdingsAfter(features[i], reset);
+      EXPECT_EQ(after, before[i]) << features[i].name;
+    }
+  }
+  /// Whether the feature that is being tried is to fail.
   bool isLost() const { return isLost_; }
-  /// Waits until it holds, where it is to come at all.
+  /// Waits until the condition holds, where it is to hold at all.
   bool comesTrue(const std::function<bool()>& condition) const {
     if (!isLost_) return App::soon(condition);
     App::settle();
@@ -66,6 +79,30 @@ class Without : public App, public ::testing::WithParamInterface<MissingMethod> 
   }
 
  private:
+  void tryOut(const Feature& feature) {
+    const AutoreleasePool turn;
+    isLost_ = this->GetParam() && this->GetParam()->lost.contains(feature.name);
+    std::string why;
+    bool works = false;
+    try {
+      works = feature.works();
+    } catch (const std::runtime_error& error) {
+      why = error.what();
+    }
+    EXPECT_EQ(works, !isLost_) << feature.name << ": " << why;
+  }
+
+  Holdings holdingsAfter(const Feature& feature, const std::function<void()>& reset) {
+    tryOut(feature);
+    const AutoreleasePool turn;
+    reset();
+    App::settleLibrary();
+    App::settle();
+    EXPECT_TRUE(App::soon(HurriedTimers::haveFired));
+    return holdings();
+  }
+
+  HurriedTimers timers_;
   bool isLost_ = false;
 };
 

@@ -2,15 +2,10 @@
 // what does not need the method works as ever.
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <regex>
-#include <set>
-#include <sstream>
+#include <cstdio>
 #include <utility>
 
 #include "device/apps/app.hpp"
-#include "device/frameworks/installed_hooks.hpp"
 #include "device/system/loader.hpp"
 #include "host/app_support.hpp"
 #include "host/camera_ui.hpp"
@@ -23,307 +18,59 @@ namespace velvault12 {
 
 namespace {
 
-std::set<std::string> wordsOf(const char* text) {
-  std::istringstream words(text);
-  return {std::istream_iterator<std::string>(words), {}};
-}
-
-/// Public, and in every version of the host; the library sends them unasked.
-const std::set<std::string> kPublicMethods = wordsOf(R"(
-  actionWithTitle:style:handler: addAction: addAssets: addGestureRecognizer: addObject: addSubview:
-  addTextFieldWithConfigurationHandler: alertControllerWithTitle:message:preferredStyle: allKeys alloc
-  animateWithDuration:delay:options:animations:completion: array assetCollectionSubtype assetCollectionType
-  autorelease boolValue bounds bringSubviewToFront: bundleIdentifier canEvaluatePolicy:error:
-  canPerformEditOperation: cellForItemAtIndexPath: center changeRequestForAssetCollection:assets: class
-  clearColor colorWithWhite:alpha: containsObject: contentView copy count
-  countByEnumeratingWithState:objects:count:
-  createDirectoryAtPath:withIntermediateDirectories:attributes:error:
-  creationRequestForAssetCollectionWithTitle: currentDevice defaultManager dictionaryWithContentsOfFile: drain
-  effectWithStyle: evaluatePolicy:localizedReason:reply:
-  fetchAssetCollectionsContainingAsset:withType:options:
-  fetchAssetCollectionsWithLocalIdentifiers:options: fetchAssetCollectionsWithType:subtype:options:
-  fetchAssetsInAssetCollection:options: fetchAssetsWithMediaType:options:
-  fetchCollectionsInCollectionList:options: fileExistsAtPath: firstObject frame gestureRecognizers
-  getCharacters:range: imageWithRenderingMode: init initWithArray:
-  initWithBarButtonSystemItem:target:action: initWithContentsOfFile: initWithContentsOfFile:encoding:error:
-  initWithEffect: initWithImage: initWithImage:style:target:action: initWithTarget:action: intValue isAtEnd
-  isEditing isEqualToString: isKindOfClass: isMainThread item items keyWindow lastObject layer layoutSubviews
-  length localIdentifier localizedStringForKey:value:table: localizedTitle mainBundle mainScreen
-  methodSignatureForSelector: mutableCopy navigationBar navigationController navigationItem new
-  numberOfItemsInSection: numberOfSections numberWithBool: numberWithInt: numberWithUnsignedInteger:
-  objectAtIndex: objectForKey: orientation performChanges:completionHandler:
-  placeholderForCreatedAssetCollection popToRootViewControllerAnimated: popoverPresentationController
-  predicateWithFormat:argumentArray: presentViewController:animated:completion: release removeAssets:
-  removeFromSuperview requestImageForAsset:targetSize:contentMode:options:resultHandler: respondsToSelector:
-  retain rightBarButtonItems scanFloat: scannerWithString:
-  scheduledTimerWithTimeInterval:target:selector:userInfo:repeats: section setAdjustsFontSizeToFitWidth:
-  setAlpha: setAutoresizesSubviews: setBackgroundColor: setBarButtonItem: setCenter: setClipsToBounds:
-  setCornerRadius: setDelegate: setEditing:animated: setFont: setFrame: setHidden: setIncludeHiddenAssets:
-  setMasksToBounds: setMinimumPressDuration: setMinimumScaleFactor: setNumberOfLines: setNumberOfTapsRequired:
-  setObject:forKey: setPlaceholder: setPredicate: setResizeMode: setRightBarButtonItems: setSecureTextEntry:
-  setSortDescriptors: setSourceRect: setSourceView: setSynchronous: setTag: setText: setTextAlignment:
-  setTextColor: setTransform: setUserInteractionEnabled: sharedApplication sharedPhotoLibrary
-  sortDescriptorWithKey:ascending: state stringValue stringWithCharacters:length: subviews superview
-  systemFontOfSize: tag text textFields transientAssetCollectionWithAssets:title: userInterfaceIdiom
-  valueWithPointer: view viewDidLayoutSubviews viewWithTag: whiteColor writeToFile:atomically:)");
-
-/// The library's own.
-const std::set<std::string> kAddedMethods =
-    wordsOf("handleLongPress: requestPassword: setPhotoView: syncAlbums unlockAuthorised:");
-
-constexpr MissingMethod kPhotos[] = {
-    {"", "", ""},
-    {"CPDistributedMessagingCenter", "+centerNamed:",
-     "lock in strip, unlock in strip, owner in strip, strip without titles, lock in list, unlock in list, "
-     "owner in list, lock button, deletion"},
-    {"CPDistributedMessagingCenter", "sendMessageName:userInfo:",
-     "lock in strip, unlock in strip, owner in strip, strip without titles, lock in list, unlock in list, "
-     "owner in list, lock button, deletion"},
-    {"PHAssetCollection", "isTrashBin", ""},
-    {"PHAssetCollection", "title", ""},
-    {"PHCollectionList", "collections", ""},
-    {"PUAlbumGadget", "albumListCellContentView", ""},
-    {"PUAlbumGadget", "title", "strip without titles"},
-    {"PUAlbumListCell", "albumListCellContentView", ""},
-    {"PUAlbumListCellContentView", "_deleteButton", "buttons"},
-    {"PUAlbumListCellContentView", "_subtitleLabel", ""},
-    {"PUAlbumListCellContentView", "_titleTextField", ""},
-    {"PUAlbumListCellContentView", "layoutSubviews", "padlock, count"},
-    {"PUAlbumListCellContentView", "setEditing:animated:", ""},
-    {"PUAlbumListCellContentView", "setSubtitle:", "count"},
-    {"PUAlbumListCellContentView", "stackView", ""},
-    {"PUAlbumListCellContentView", "subtitle", "count"},
-    {"PUAlbumListCellContentView", "title",
-     "lock in strip, tick, unlock in strip, lock in list, unlock in list, padlock, count, lock button, move "
-     "button"},
-    {"PUAlbumListCellContentViewHelper", "albumCellSize", ""},
-    {"PUAlbumListCellContentViewHelperConfiguration", "stackSize", ""},
-    {"PUAlbumListViewController", "_handleDoneButton:", "return"},
-    {"PUAlbumListViewController", "_pickerBannerView", "move, return, move from grid"},
-    {"PUAlbumListViewController", "_preparedAlbumListCellContentViewAtIndexPath:", ""},
-    {"PUAlbumListViewController", "albumListCellContentView:performDeleteAction:", "deletion"},
-    {"PUAlbumListViewController", "collectionAtIndexPath:", "deletion, move, move from grid"},
-    {"PUAlbumListViewController", "collectionView", ""},
-    {"PUAlbumListViewController", "collectionView:cellForItemAtIndexPath:", ""},
-    {"PUAlbumListViewController", "didSelectItemAtIndexPath:", "owner in list, move, move from grid"},
-    {"PUAlbumListViewController", "indexPathForAlbumListCellContentView:", "deletion"},
-    {"PUAlbumListViewController", "isPlaceholderAtIndexPath:", ""},
-    {"PUAlbumListViewController", "pu_wantsTabBarVisible", ""},
-    {"PUAlbumListViewController", "reloadContentView", ""},
-    {"PUAlbumListViewController", "setEditing:animated:", "buttons"},
-    {"PUAlbumListViewController", "showPeople", ""},
-    {"PUAlbumListViewController", "showPlaces", ""},
-    {"PUAlbumListViewController", "subtitleForCollection:", ""},
-    {"PUAlbumListViewController", "viewDidLayoutSubviews", "return"},
-    {"PUAlbumListViewController", "viewWillAppear:", ""},
-    {"PUAlbumsGadgetProvider", "albumListType", ""},
-    {"PUAlbumsGadgetViewController", "collectionView", ""},
-    {"PUAlbumsGadgetViewController", "viewWillAppear:", ""},
-    {"PUAssetHidingHelper", "applyHiddenState:completionHandler:",
-     "move button, move, return, move from grid, move from content, move from library, removal"},
-    {"PUAssetHidingHelper", "setAssets:",
-     "move button, move, return, move from grid, move from content, move from library, removal"},
-    {"PUAssetViewModel", "wantsIrisBadgeVisible", ""},
-    {"PUDeletePhotosActionController", "shouldSkipDeleteConfirmation", ""},
-    {"PUHorizontalAlbumListGadget", "_gadgetAtIndexPath:", "owner in strip, strip without titles"},
-    {"PUHorizontalAlbumListGadget", "collectionView", ""},
-    {"PUHorizontalAlbumListGadget", "collectionView:cellForItemAtIndexPath:", ""},
-    {"PUHorizontalAlbumListGadget",
-     "collectionView:didSelectItemAtIndexPath:", "owner in strip, strip without titles"},
-    {"PUHorizontalAlbumListGadget", "gadgetType", ""},
-    {"PUHorizontalAlbumListGadget", "provider", ""},
-    {"PUHorizontalAlbumListGadget", "viewWillAppear:", ""},
-    {"PUNavigationController", "_currentToolbarViewController", "sheet of album"},
-    {"PUNavigationController", "navigationBar", ""},
-    {"PUOneUpSettings", "setDefaultMaximumZoomFactor:", ""},
-    {"PUPhotoViewContentHelper", "imageContentFrame", ""},
-    {"PUPhotosAlbumViewController", "_removeSelectedAssetsWithCompletion:", "removal"},
-    {"PUPhotosAlbumViewController", "assetCollection", ""},
-    {"PUPhotosAlbumViewController", "initiallyScrolledToBottom", ""},
-    {"PUPhotosAlbumViewController", "pu_wantsTabBarVisible", ""},
-    {"PUPhotosAlbumViewController", "selectedAssets", "move, return, removal"},
-    {"PUPhotosAlbumViewController",
-     "setAssetCollection:fetchResultContainingAssetCollection:filterPredicate:existingFetchResults:",
-     "move, return"},
-    {"PUPhotosAlbumViewController", "shouldShowSectionHeaders", ""},
-    {"PUSectionedGridLayout", "itemSize", ""},
-    {"PUTabbedLibraryViewController", "excludedContentModes", "tabs"},
-    {"PUTabbedLibraryViewController", "selectedNavigationController", "leaving"},
-    {"PUZoomableGridViewController", "selectedAssets", "move from grid"},
-    {"PUZoomableGridViewController", "viewWillAppear:", "move from grid"},
-    {"PXCuratedLibraryUIViewController", "viewProvider", "move from library"},
-    {"PXCuratedLibraryUIViewController", "viewWillAppear:", "move from library"},
-    {"PXCuratedLibraryViewModel", "selectionManager", "move from library"},
-    {"PXCuratedLibraryViewProvider", "viewModel", "move from library"},
-    {"PXGadgetDataSource", "gadgets", "sections"},
-    {"PXNavigationListGadget", "gadgetType", "sections"},
-    {"PXPhotoKitCollectionsDataSourceManager", "_containsAnyAssets:", ""},
-    {"PXPhotoKitCollectionsDataSourceManager", "canReorderCollection:", ""},
-    {"PXPhotosContentController", "contentViewWillAppear:", "move from content"},
-    {"PXPhotosContentController", "viewModel", "move from content"},
-    {"PXPhotosUIViewController", "viewDidAppear:", ""},
-    {"PXPhotosViewModel", "selectionManager", "move from content"},
-    {"PXSectionedSelectionManager", "selectionSnapshot", "move from content, move from library"},
-    {"PXSelectionSnapshot", "fetchSelectedObjects", "move from content, move from library"},
-    {"PXUIButton", "layoutSubviews", ""},
-    {"PhotosApplication", "_tabbedLibraryViewController", "leaving"},
-    {"PhotosApplication", "applicationDidEnterBackground:", "leaving"},
-    {"UIDevice", "_tapticEngine", "tick"},
-    {"UITabBar", "items", ""},
-    {"UITabBar", "layoutSubviews", ""},
-    {"UIView", "_viewControllerForAncestor", "move button"},
-    {"_UITapticEngine", "actuateFeedback:", "tick"},
-};
-
-constexpr MissingMethod kCamera[] = {
-    {"", "", ""},
-    {"CAMBottomBar", "backgroundView", ""},
-    {"CAMBottomBar", "layoutSubviews", "bar"},
-    {"CAMCaptureEngine", "captureOutput:didFinishCaptureForResolvedSettings:error:", "capture, move"},
-    {"CAMImageWell", "thumbnailImage", "thumbnail"},
-    {"CAMMetalView", "layoutSubviews", "metal"},
-    {"CPDistributedMessagingCenter", "+centerNamed:", "choice"},
-    {"CPDistributedMessagingCenter", "sendMessageName:userInfo:", "choice"},
-    {"NSString", "sizeWithFont:constrainedToSize:lineBreakMode:", ""},
-    {"PUAssetHidingHelper", "applyHiddenState:completionHandler:", "move"},
-    {"PUAssetHidingHelper", "setAssets:", "move"},
-    {"UILabel", "setAdjustsLetterSpacingToFitWidth:", ""},
-    {"UIView", "_viewControllerForAncestor", "bar, metal, choice"},
-};
-
-/// With what the library does to every app that reads photos.
-constexpr MissingMethod kOtherApp[] = {
-    {"", "", ""},
-    {"PHAsset", "+fetchAssetsInAssetCollection:options:", "screen, lock in fetches, hidden photos, count"},
-    {"PHAsset", "+fetchKeyAssetsInAssetCollection:options:", "lock in key photos, hidden key photos"},
-    {"PHAssetCollection", "+fetchAssetCollectionsWithType:subtype:options:", ""},
-    {"PHAssetCollection", "estimatedAssetCount", "lock in counts, count"},
-    {"PHAssetCollection", "isTrashBin", "trash"},
-    {"PHAssetCollection", "keyAssetsAtEnd", "key photos at end"},
-    {"PHAssetCollection", "startsAtEnd", "end"},
-    {"PHAssetCollection", "title",
-     "folders, lock in lists, lock in fetches, lock in key photos, lock in counts"},
-    {"PHCollectionList", "collections", "folders, lock in lists, switch, trash"},
-    {"PHFetchResult", "fetchedObjects", ""},
-};
-
-constexpr MissingMethod kSpringBoard[] = {
-    {"", "", ""},
-    {"CPDistributedMessagingCenter", "+centerNamed:", "service, saving, owner"},
-    {"CPDistributedMessagingCenter", "registerForMessageName:target:selector:", "saving, owner"},
-    {"CPDistributedMessagingCenter", "runServerOnCurrentThread", "service, saving, owner"},
-    {"SpringBoard", "applicationDidFinishLaunching:", "service, saving, owner"},
-};
-
-std::string nameOf(const ::testing::TestParamInfo<MissingMethod>& info) {
-  if (info.param.className.empty()) return "nothing";
-  const std::string name = std::string(info.param.className) + "_" + std::string(info.param.selector);
-  return std::regex_replace(name, std::regex("[+:]"), "");
-}
-
-}  // namespace
-
-bool isPublic(std::string_view selector) { return kPublicMethods.contains(std::string(selector)); }
-
-void PrintTo(const MissingMethod& method, std::ostream* out) { *out << method.className << method.selector; }
-
-namespace {
-
-/// All that some host here lacks: selectors, and a class's own with a plus.
-std::set<std::string> missingMethods(std::string_view className = "") {
-  std::set<std::string> selectors;
-  for (const std::span<const MissingMethod> host :
-       {std::span<const MissingMethod>(kPhotos), std::span<const MissingMethod>(kCamera),
-        std::span<const MissingMethod>(kOtherApp), std::span<const MissingMethod>(kSpringBoard)}) {
-    for (const MissingMethod& each : host) {
-      if (className.empty() || each.className == className) selectors.emplace(each.selector);
-    }
-  }
-  return selectors;
-}
-
-std::string contentsOf(const std::filesystem::path& file) {
-  std::ifstream stream(file);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-TEST(SentMethods, ArePublicOrMissingInSomeHostHere) {
-  const std::set<std::string> missing = missingMethods();
-  const std::regex sending(
-      R"re((?:send|trySend|sendToClass|trySendToClass|responds|understands|makeObject<\w+,)[<\s]\s*"([^"]+)")re");
-  int sent = 0;
-  for (const char* const folder : {"host", "startup", "camera", "photos", "springboard", "library_filter"}) {
-    const auto sources = std::filesystem::path(VELVAULT12_SOURCES) / folder;
-    for (const auto& file : std::filesystem::recursive_directory_iterator(sources)) {
-      if (!file.is_regular_file()) continue;
-      const std::string text = contentsOf(file.path());
-      for (std::sregex_iterator each(text.begin(), text.end(), sending), end; each != end; ++each, ++sent) {
-        const std::string selector = (*each)[1];
-        EXPECT_TRUE(kPublicMethods.contains(selector) || kAddedMethods.contains(selector) ||
-                    missing.contains(selector) || missing.contains("+" + selector))
-            << file.path().filename() << ": " << selector;
-      }
-    }
-  }
-  EXPECT_GT(sent, 150);
-}
-
-class HookedMethods : public PhoneTest, public ::testing::WithParamInterface<std::string_view> {};
-INSTANTIATE_TEST_SUITE_P(, HookedMethods,
-                         ::testing::Values(device::kPhotos, device::kCamera, device::kGallery,
-                                           device::kSpringBoard));
-
-TEST_P(HookedMethods, AreMissingInSomeHostHere) {
-  become(GetParam());
-  device::loadInjectedLibraries();
-  EXPECT_FALSE(device::installedHooks().empty());
-  for (const auto& hook : device::installedHooks()) {
-    const std::string selector = (hook.isClassMethod ? "+" : "") + hook.selector;
-    EXPECT_TRUE(hook.kind == device::InstalledHook::Kind::added ||
-                missingMethods(hook.className).contains(selector))
-        << hook.className << " " << selector;
-  }
-}
-
-class PhotosWithout : public Without<PhotosApp> {
+class PhotosWithoutMethod : public MissingMethodTest<PhotosApp> {
  protected:
-  PhotosWithout() {
+  PhotosWithoutMethod() {
+    // For the section of media types.
     auto library = phone_.photoLibrary();
-    holidays_ = library.allAlbums()[0].identifier;
-    for (int minute = 1; minute <= 6; ++minute) addPhoto(minute, holidays_);
-    library.setHidden(addPhoto(7, library.addAlbum("Old")), true);
-    library.setHidden(photos_[5], true);
-    library.addToAlbum(library.addAsset({.creationDate = 900, .smartSubtype = 202}), holidays_);
+    library.addToAlbum(library.addAsset({.smartSubtype = 202}), library.allAlbums()[0].identifier);
+    addOld();
   }
-  std::int64_t addPhoto(int minute, std::int64_t album) {
+
+  void addOld() const {
     auto library = phone_.photoLibrary();
-    photos_.push_back(library.addAsset({.creationDate = 60.0 * minute}));
-    library.addToAlbum(photos_.back(), album);
-    return photos_.back();
+    library.addToAlbum(library.addAsset({.isHidden = true}), library.addAlbum("Old"));
   }
-  static std::string photo(int number) { return "Photo, 1970-01-01 00:0" + std::to_string(number) + ":00"; }
-  bool isHidden(int number) const {
+  static inline const Preferences kPreferences{{"showTabShared", false}, {"showMediaTypes", false}};
+  void reloadWith(const std::string& key, bool value) const {
+    auto preferences = kPreferences;
+    preferences[key] = value;
+    reload(preferences);
+  }
+
+  /// A photo of "Holidays", and what the phone calls it.
+  struct Photo {
+    std::int64_t identifier;
+    std::string words;
+  };
+  Photo newPhoto(bool isHidden = false) {
+    char words[40];
+    std::snprintf(words, sizeof words, "Photo, 1970-01-01 00:%02d:00", ++photos_);
+    auto library = phone_.photoLibrary();
+    const auto photo = library.addAsset({.creationDate = 60.0 * photos_, .isHidden = isHidden});
+    library.addToAlbum(photo, library.allAlbums()[0].identifier);
+    return {photo, words};
+  }
+  bool isHidden(const Photo& photo) const {
     settleLibrary();
-    const auto all = phone_.photoLibrary().allAssets();
-    const auto identifier = photos_.at(static_cast<std::size_t>(number) - 1);
-    return std::ranges::find(all, identifier, &device::AssetRow::identifier)->isHidden;
+    return phone_.photoLibrary().asset(photo.identifier)->isHidden;
   }
 
   /// Has these albums locked, by a file that none before it was like, and Photos at the first screen of its
   /// Albums tab.
-  void begin(Titles locked = {}) const {
+  void begin(Titles locked = {}) {
     if (!owner().ownerRequest().empty()) owner().answerOwnerRequest(OwnerAnswer::cancel);
     albumList().setEditing(false, false);
     navigation().send<"dismissViewControllerAnimated:completion:", void(bool, Block<void()>)>(
         false, Block<void()>());
     navigation().popToRoot(false);
     me_.tap("Albums");
-    static int files = 0;
-    locked.push_back("File " + std::to_string(++files));
+    locked.push_back("File " + std::to_string(++files_));
     writeStrings(kLockedAlbums, locked);
+    if (albums().size() == 3) addOld();
     strip().send<"viewWillAppear:", void(bool)>(false);
   }
-  void beginIn(From from, Titles locked = {}) const {
+  void beginIn(From from, Titles locked = {}) {
     begin(std::move(locked));
     if (from == From::list) me_.tap("See All");
   }
@@ -342,35 +89,35 @@ class PhotosWithout : public Without<PhotosApp> {
     return true;
   }
 
-  bool locks(From from) const {
+  bool locks(From from) {
     beginIn(from);
     me_.longPress("Pets");
     return isLocked("Pets");
   }
-  bool unlocks(From from) const {
+  bool unlocks(From from) {
     beginIn(from, {"Pets"});
     me_.longPress("Pets");
     return isAllowedByOwner() && isLocked("Pets", false);
   }
-  bool opensForOwner(From from) const {
+  bool opensForOwner(From from) {
     beginIn(from, {"Pets"});
     if (!tapped("Pets").empty()) throw std::runtime_error("it is open");
     return isAllowedByOwner() && comesTrue([&] { return openAlbum() == "Pets"; });
   }
   /// The tiles do not know their albums then.
-  bool asksWithoutTitles() const {
+  bool asksWithoutTitles() {
     begin({"Pets"});
-    reload({{"layoutShowTitle", false}});
+    reloadWith("layoutShowTitle", false);
     NSInteger item = 0;
     const auto titleAt = [&] {
       return strip().gadgetAtIndexPath(pathTo(item)).trySend<"title", NSString()>().utf8();
     };
     while (item < 10 && titleAt() != "Pets") ++item;
     strip().select(pathTo(item));
-    reload({});
+    reload(kPreferences);
     return openAlbum().empty() && isAllowedByOwner();
   }
-  bool opens(From from) const {
+  bool opens(From from) {
     beginIn(from, {"Pets"});
     return tapped("Recipes") == "Recipes";
   }
@@ -387,35 +134,36 @@ class PhotosWithout : public Without<PhotosApp> {
   static bool has(PUAlbumListCellContentView tile, NSInteger tag) {
     return static_cast<bool>(tile.subviewWithTag<UIView>(tag));
   }
-  bool coversTiles() const {
+  bool coversTiles() {
     beginIn(From::list, {"Pets"});
     return has(tileOf("Pets"), 200) && !has(tileOf("Holidays"), 200);
   }
-  bool countsHidden() const {
+  bool countsHidden() {
     beginIn(From::list);
     tileOf("Old").setSubtitle(NSString::from("7"));
     return tileOf("Old").subtitle().utf8() == "1";
   }
-  bool hasTileButtons() const {
+  bool hasTileButtons() {
     beginIn(From::list);
     me_.tap("Edit");
     return has(tileOf("Pets"), 213) && has(tileOf("Pets"), 214);
   }
-  bool locksByButton() const {
+  bool locksByButton() {
     beginIn(From::list);
     tileOf("Pets").send<"lockAlbum", void()>();
     if (!isLocked("Pets")) return false;
     tileOf("Pets").send<"lockAlbum", void()>();
     return isAllowedByOwner() && isLocked("Pets", false);
   }
-  bool movesAlbum() const {
+  bool movesAlbum() {
+    phone_.photoLibrary().setHidden(assetsIn("Recipes").at(0).identifier, false);
     beginIn(From::list);
     tileOf("Recipes").send<"askToMoveAlbum", void()>();
     me_.tap("Move out of camera roll");
     settleLibrary();
     return assetsIn("Recipes").at(0).isHidden;
   }
-  bool deletesForOwner() const {
+  bool deletesForOwner() {
     beginIn(From::list, {"Old"});
     tap({"Edit", "Delete Old"});
     return isAllowedByOwner() && comesTrue([&] {
@@ -423,60 +171,63 @@ class PhotosWithout : public Without<PhotosApp> {
              return albums().size() == 3;
            });
   }
-  void pick(std::string_view where, int number) const {
+  Photo pick(std::string_view where) {
     begin();
-    tap({where, "Select", photo(number), "Add To"});
+    const Photo photo = newPhoto();
+    tap({where, "Select", photo.words, "Add To"});
+    return photo;
   }
-  bool moves(std::string_view where, int number) const {
-    pick(where, number);
+  bool moves(std::string_view where) {
+    const Photo photo = pick(where);
     tap({"Pets", "Move"});
-    return isHidden(number) && assetsIn("Pets").size() > 1;
+    return isHidden(photo) && phone_.photoLibrary().albumsContaining(photo.identifier).back().title == "Pets";
   }
-  bool returns(int number) const {
-    pick("Holidays", number);
-    phone_.photoLibrary().setHidden(photos_.at(static_cast<std::size_t>(number) - 1), true);
+  bool returns() {
+    const Photo photo = pick("Holidays");
+    phone_.photoLibrary().setHidden(photo.identifier, true);
     tap({"Camera", "Copy"});
-    return !isHidden(number) && me_.sees("Select");
+    return !isHidden(photo) && me_.sees("Select");
   }
   /// With a later system's controller that has the photo selected.
   template <Name ClassName>
-  bool movesFrom(int number) const {
+  bool movesFrom() {
     begin();
-    // Behind the three that each album has of its own.
-    const auto photo =
-        PHAsset::fetchWithMediaType(PHAsset::MediaType::image, PHFetchOptions::includingHidden().get())
-            .objectAtIndex(static_cast<NSUInteger>(number) + 2);
+    const Photo photo = newPhoto();
     const auto controller = makeObject<HostClass<ClassName>>();
     const Object provider = controller->template trySend<"viewProvider", Object()>();
-    (provider ? provider : controller.get())
-        .template send<"viewModel", Object()>()
-        .template send<"selectionManager", Object()>()
-        .template send<"_selectObjects:", void(NSArray)>(NSArray::of(photo));
+    const Object manager = (provider ? provider : controller.get())
+                               .template send<"viewModel", Object()>()
+                               .template send<"selectionManager", Object()>();
+    for (const PHAsset asset : PHAsset::fetchAllInAssetCollection(albumNamed("Holidays"))) {
+      const std::string identifier = asset.send<"localIdentifier", NSString()>().utf8();
+      if (std::stoll(identifier) == photo.identifier)
+        manager.send<"_selectObjects:", void(NSArray)>(NSArray::of(asset));
+    }
     controller->template trySend<"viewWillAppear:", void(bool)>(false);
     strip().send<"reloadCameraRollWithMove:", void(bool)>(true);
-    return isHidden(number);
+    return isHidden(photo);
   }
-
-  bool removes(int number) const {
+  bool removes() {
     begin();
-    tap({"Holidays", "Select", photo(number), "Remove"});
-    return !isHidden(number);
+    const Photo photo = newPhoto(true);
+    tap({"Holidays", "Select", photo.words, "Remove"});
+    return !isHidden(photo);
   }
-  bool asksWhereAlbumGoes() const {
+  bool asksWhereAlbumGoes() {
     begin();
     me_.tap("Holidays");
     navigation().send<"syncAlbums", void()>();
     return me_.sees("Move Album Photos");
   }
-  bool offersToReturnAll() const {
+  bool offersToReturnAll() {
     beginIn(From::list);
     me_.tap("Edit");
     albumList().send<"viewDidLayoutSubviews", void()>();
     return albumList().navigationItem().rightBarButtonItems().count() == 2;
   }
-  bool isLeft() const {
+  bool isLeft() {
     begin({"Recipes"});
-    reload({{"returnToMainDefault", true}});
+    reloadWith("returnToMainDefault", true);
     me_.tap("Holidays");
     if (openAlbum() != "Holidays") throw std::runtime_error("it has not opened");
     me_.leaveApp();
@@ -484,14 +235,14 @@ class PhotosWithout : public Without<PhotosApp> {
     return openAlbum().empty();
   }
 
-  std::int64_t holidays_ = 0;
-  std::vector<std::int64_t> photos_;
+  int photos_ = 0;
+  int files_ = 0;
 };
 
-TEST_P(PhotosWithout, GoesOn) {
-  open(From::strip, {}, {{"showTabShared", false}, {"showMediaTypes", false}});
+TEST_P(PhotosWithoutMethod, KeepsItsOtherFeatures) {
+  open(From::strip, {}, kPreferences);
   using enum From;
-  const Part story[] = {
+  const Feature features[] = {
       {"albums", [&] { return me_.sees("Holidays") && me_.sees("Pets"); }},
       {"tabs", [&] { return !me_.sees("Shared"); }},
       {"sections", [&] { return !me_.sees("Media Types"); }},
@@ -511,27 +262,22 @@ TEST_P(PhotosWithout, GoesOn) {
       {"lock button", [&] { return locksByButton(); }},
       {"move button", [&] { return movesAlbum(); }},
       {"deletion", [&] { return deletesForOwner(); }},
-      {"move", [&] { return moves("Holidays", 1); }},
-      {"return", [&] { return returns(2); }},
-      {"move from grid", [&] { return moves("Photos", 3); }},
-      {"move from content", [&] { return movesFrom<"PXPhotosUIViewController">(4); }},
-      {"move from library", [&] { return movesFrom<"PXCuratedLibraryUIViewController">(5); }},
-      {"removal", [&] { return removes(6); }},
+      {"move", [&] { return moves("Holidays"); }},
+      {"return", [&] { return returns(); }},
+      {"move from grid", [&] { return moves("Photos"); }},
+      {"move from content", [&] { return movesFrom<"PXPhotosUIViewController">(); }},
+      {"move from library", [&] { return movesFrom<"PXCuratedLibraryUIViewController">(); }},
+      {"removal", [&] { return removes(); }},
       {"sheet of album", [&] { return asksWhereAlbumGoes(); }},
       {"sheet of all", [&] { return offersToReturnAll(); }},
       {"leaving", [&] { return isLeft(); }},
   };
-  play(story);
+  run(features, [&] { begin(); });
 }
-INSTANTIATE_TEST_SUITE_P(, PhotosWithout, ::testing::ValuesIn(kPhotos), nameOf);
+INSTANTIATE_TEST_SUITE_P(, PhotosWithoutMethod, ::testing::ValuesIn(missingMethodsOf(device::kPhotos)),
+                         nameOf);
 
-/// Does at once what is to be done after some time.
-NSTimer scheduleNow(Object, Replaced<NSTimer(double, Object, SEL, Object, bool)> host, double, Object target,
-                    SEL action, Object info, bool repeats) {
-  return host(0, target, action, info, repeats);
-}
-
-class CameraWithout : public Without<PhoneTest> {
+class CameraWithoutMethod : public MissingMethodTest<PhoneTest> {
  protected:
   bool choosesIn(CameraBar bar, std::string_view album) const {
     bar.layoutSubviews();
@@ -542,24 +288,33 @@ class CameraWithout : public Without<PhoneTest> {
   }
 };
 
-TEST_P(CameraWithout, GoesOn) {
+TEST_P(CameraWithoutMethod, KeepsItsOtherFeatures) {
   constexpr std::string_view kChosen = "/var/mobile/Library/velvault/album.tct";
   auto library = phone_.photoLibrary();
-  const auto pets = library.addAlbum("Pets");
+  library.addAlbum("Pets");
   library.addAlbum("Zoo");
-  library.addAsset({.creationDate = 1});
+  library.addAsset({});
   springBoard_.emplace(phone_.launch(device::kSpringBoard));
   writeStrings(kChosen, {"Pets"});
+  writeStrings(kLockedAlbums, {});
   phone_.writePreferences({{"rememberDefault", true}});
   become(device::kCamera);
-  installHook(replaceClassMethod<scheduleNow>(
-      "NSTimer", "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:", "@@:d@:@B"));
   device::loadInjectedLibraries();
   device::startApp(device::kCamera);
 
   const auto camera =
       UIApplication::sharedApplication().keyWindow().send<"rootViewController", UIViewController()>();
-  const Part story[] = {
+  double date = 0;
+  const auto capture = [&] {
+    const auto photo = library.addAsset({.creationDate = ++date});
+    camera.send<"_captureEngine", Object()>()
+        .send<"captureOutput:didFinishCaptureForResolvedSettings:error:", void(Object, Object, Object)>(
+            Object(), Object(), Object());
+    turn();
+    settleLibrary();
+    return photo;
+  };
+  const Feature features[] = {
       {"camera", [&] { return me_.sees("Take Picture"); }},
       {"thumbnail",
        [&] {
@@ -570,23 +325,17 @@ TEST_P(CameraWithout, GoesOn) {
                     .height == 175;
        }},
       {"capture",
-       [&] {
-         camera.send<"_captureEngine", Object()>()
-             .send<"captureOutput:didFinishCaptureForResolvedSettings:error:", void(Object, Object, Object)>(
-                 Object(), Object(), Object());
-         return comesTrue([&] {
-           settleLibrary();
-           return library.assetsInAlbum(pets).size() == 1;
-         });
-       }},
-      {"move", [&] { return library.allAssets().at(0).isHidden; }},
+       [&] { return comesTrue([&, id = capture()] { return !library.albumsContaining(id).empty(); }); }},
+      {"move", [&] { return comesTrue([&, id = capture()] { return library.asset(id)->isHidden; }); }},
       {"bar", [&] { return choosesIn(camera.send<"_bottomBar", CameraBar()>(), "Zoo"); }},
       {"metal",
        [&] {
          const auto bar = makeObject<CAMMetalView>();
          bar->setFrame({{0, 100}, {350, 140}});
          camera.view().addSubview(bar.get());
-         return choosesIn(bar.get(), "Pets");
+         const bool chooses = choosesIn(bar.get(), "Pets");
+         bar->removeFromSuperview();
+         return chooses;
        }},
       {"choice",
        [&] {
@@ -594,16 +343,19 @@ TEST_P(CameraWithout, GoesOn) {
          remove(kChosen);
          tap({"album", "Camera Roll"});
          settle();
-         return comesTrue([&] { return phone_.strings(kChosen) == Titles{"Camera Roll"}; });
+         const bool isSaved = comesTrue([&] { return phone_.strings(kChosen) == Titles{"Camera Roll"}; });
+         tap({"album", "Pets"});
+         return isSaved;
        }},
   };
-  play(story);
+  run(features);
 }
-INSTANTIATE_TEST_SUITE_P(, CameraWithout, ::testing::ValuesIn(kCamera), nameOf);
+INSTANTIATE_TEST_SUITE_P(, CameraWithoutMethod, ::testing::ValuesIn(missingMethodsOf(device::kCamera)),
+                         nameOf);
 
-using OtherAppWithout = Without<PhoneTest>;
+using OtherAppWithoutMethod = MissingMethodTest<PhoneTest>;
 
-TEST_P(OtherAppWithout, GoesOn) {
+TEST_P(OtherAppWithoutMethod, KeepsItsOtherFeatures) {
   auto library = phone_.photoLibrary();
   for (const auto album : {library.addAlbum("Pets"), library.addAlbum("Locked"),
                            library.addAlbum("Inside", library.addFolder("Folder"))}) {
@@ -623,7 +375,7 @@ TEST_P(OtherAppWithout, GoesOn) {
   const auto in = [](std::string_view title) {
     return PHAsset::fetchInAssetCollection(albumNamed(title), PHFetchOptions());
   };
-  const Part story[] = {
+  const Feature features[] = {
       {"albums", [&] { return listed("Pets") && listed("Folder"); }},
       {"screen", [&] { return me_.sees("fetched Pets: 2 photos"); }},
       {"folders", [&] { return listed("Inside"); }},
@@ -639,20 +391,21 @@ TEST_P(OtherAppWithout, GoesOn) {
       {"end", [&] { return albumNamed("Pets").send<"startsAtEnd", bool()>(); }},
       {"key photos at end", [&] { return albumNamed("Pets").send<"keyAssetsAtEnd", bool()>(); }},
   };
-  play(story);
+  run(features);
 }
-INSTANTIATE_TEST_SUITE_P(, OtherAppWithout, ::testing::ValuesIn(kOtherApp), nameOf);
+INSTANTIATE_TEST_SUITE_P(, OtherAppWithoutMethod, ::testing::ValuesIn(missingMethodsOf("")), nameOf);
 
-using SpringBoardWithout = Without<PhoneTest>;
+using SpringBoardWithoutMethod = MissingMethodTest<PhoneTest>;
 
-TEST_P(SpringBoardWithout, GoesOn) {
+TEST_P(SpringBoardWithoutMethod, KeepsItsOtherFeatures) {
   phone_.launchHere(device::kSpringBoard);
   const auto service = CPDistributedMessagingCenter::centerNamed(kServiceName);
-  const Part story[] = {
+  const Feature features[] = {
       {"start", [&] { return static_cast<bool>(UIApplication::sharedApplication().keyWindow()); }},
       {"service", [&] { return service.send<"doesServerExist", bool()>(); }},
       {"saving",
        [&] {
+         remove(kLockedAlbums);
          const FolderEvents events(phone_.onDisk(kStateFolder));
          service.sendMessage(kSaveArrayMessage, dictionaryOf({{key::kArray, NSArray::from({"Locked"})},
                                                               {key::kPath, NSString::from(kLockedAlbums)}}));
@@ -661,12 +414,15 @@ TEST_P(SpringBoardWithout, GoesOn) {
       {"owner",
        [&] {
          service.sendMessage(kAuthenticateMessage, dictionaryOf({{key::kMethod, NSNumber::from(2)}}));
-         return comesTrue([&] { return !me_.ownerRequest().empty(); });
+         const bool isAsked = comesTrue([&] { return !me_.ownerRequest().empty(); });
+         if (isAsked) me_.answerOwnerRequest(device::OwnerAnswer::cancel);
+         return isAsked;
        }},
   };
-  play(story);
+  run(features);
 }
-INSTANTIATE_TEST_SUITE_P(, SpringBoardWithout, ::testing::ValuesIn(kSpringBoard), nameOf);
+INSTANTIATE_TEST_SUITE_P(, SpringBoardWithoutMethod,
+                         ::testing::ValuesIn(missingMethodsOf(device::kSpringBoard)), nameOf);
 
 }  // namespace
 }  // namespace velvault12
