@@ -157,7 +157,7 @@ class PXCuratedLibraryUIViewController
 /// What is selected in any of these four, each asked by the way that it knows; empty for nil.
 inline Ref<NSArray> selectedPhotos(Object controller) {
   if (controller.responds<"selectedAssets">())
-    return elementsOf(controller.send<"selectedAssets", Object()>());
+    return elementsOf(controller.trySend<"selectedAssets", Object()>());
   const Object provider = controller.trySend<"viewProvider", Object()>();
   const Object viewModel = (provider ? provider : controller).trySend<"viewModel", Object()>();
   const Object manager = viewModel.trySend<"selectionManager", Object()>();
@@ -173,7 +173,7 @@ class PXGadget : public Object {
   /// Of which albums it is a strip; nothing where it is none.
   std::optional<std::uint64_t> albumListType() const {
     if (!responds<"provider">()) return std::nullopt;
-    return send<"provider", Object()>().trySend<"albumListType", std::uint64_t()>();
+    return trySend<"provider", Object()>().trySend<"albumListType", std::uint64_t()>();
   }
 };
 
