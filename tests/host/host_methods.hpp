@@ -14,7 +14,6 @@ struct HostMethod {
   std::string host;
   std::string className;
   std::string selector;
-  /// Of what is added, and of what no version has.
   std::string encoding;
   /// The features that a host without the method loses.
   std::set<std::string> lost;
@@ -26,6 +25,9 @@ struct HostMethod {
   bool isInNoVersion = false;
 };
 void PrintTo(const HostMethod& method, std::ostream* out);
+
+/// Removes names of structures and places of arguments, and writes BOOL as an iPhone does.
+std::string plainEncoding(const std::string& encoding);
 
 /// Returns the host's rows of the one table of all such methods, in the order in which hooks are installed.
 std::vector<HostMethod> hostMethods(std::string_view host);

@@ -118,7 +118,9 @@ void hideFromLibrary(const HostMethod& method) {
   const Class type = objc_getClass(method.className.c_str());
   ASSERT_TRUE(type);
   hidden.owner = method.isClassMethod ? object_getClass(reinterpret_cast<id>(type)) : type;
-  ASSERT_TRUE(class_getInstanceMethod(hidden.owner, hidden.selector)) << "this host has no such method";
+  objc_method* const hosts = class_getInstanceMethod(hidden.owner, hidden.selector);
+  ASSERT_TRUE(hosts) << "this host has no such method";
+  EXPECT_EQ(plainEncoding(method_getTypeEncoding(hosts)), plainEncoding(method.encoding));
 }
 
 bool wasAskedFor() { return asked; }

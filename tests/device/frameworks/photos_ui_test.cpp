@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
+#include <cctype>
 #include <sstream>
 
 #include "tests/device/frameworks/plain_phone.hpp"
@@ -13,160 +13,37 @@
 namespace velvault12 {
 
 extern "C" {
-Class class_getSuperclass(Class type);
 void MSHookMessageEx(Class type, SEL selector, IMP implementation, IMP* replaced);
 }
 
 namespace {
 
-// Each class with its superclass, and methods of it with their types on an iPhone. Those marked ~ are
-// inherited, those marked ? are its own or inherited, those marked - it does not have at all; + marks a class
-// method.
-constexpr const char* kClasses = R"(
-PLPhotosApplication : UIApplication {}
-PhotosApplication : PLPhotosApplication {
-  applicationDidEnterBackground: v@:@   ~_tabbedLibraryViewController @@: }
-FBSystemApp : UIApplication {}
-SpringBoard : FBSystemApp { applicationDidFinishLaunching: v@:@ }
-PUTabbedLibraryViewController : UITabBarController {
-  selectedNavigationController @@:   excludedContentModes @@: }
-UIViewController : UIResponder { toolbarItems @@: }
-UINavigationController : UIViewController {
-  popToRootViewControllerAnimated: @@:B   toolbar @@:   setToolbarHidden:animated: v@:BB
-  isToolbarHidden B@: }
-PUNavigationController : UINavigationController {
-  ~navigationBar @@:   _currentToolbarViewController @@: }
-UIBarItem : NSObject { title @@:   image @@:   tag q@:   setTag: v@:q   setEnabled: v@:B }
-UIBarButtonItem : UIBarItem {
-  initWithTitle:style:target:action: @@:@q@:   initWithImage:style:target:action: @@:@q@:
-  initWithBarButtonSystemItem:target:action: @@:q@: }
-UITabBarItem : UIBarItem {}
-UINavigationItem : NSObject {
-  leftBarButtonItems @@:   setLeftBarButtonItems: v@:@   leftBarButtonItem @@:
-  rightBarButtonItems @@:   setRightBarButtonItems: v@:@   rightBarButtonItem @@: }
-UIToolbar : UIView { items @@: }
-UIView : UIResponder { _viewControllerForAncestor @@: }
-UITabBar : UIView { layoutSubviews v@:   items @@:   setHidden: v@:B   ~isHidden B@:   -hidden }
-PXUIButton : UIButton { ~layoutSubviews v@:   -viewidLoad }
-PXGadgetDataSource : PXSectionedDataSource { gadgets @@: }
-PXGadgetProvider : NSObject {}
-PUAlbumsGadgetProvider : PXGadgetProvider { albumListType Q@: }
-PXNavigationListGadget : PXNavigationListController { gadgetType Q@:   -provider   -albumListCellContentView }
-PXCollectionsDataSourceManager : PXSectionedDataSourceManager {
-  -_containsAnyAssets:   -canReorderCollection: }
-PXPhotoKitCollectionsDataSourceManager : PXCollectionsDataSourceManager {
-  _containsAnyAssets: B@:@   canReorderCollection: B@:@ }
-PXHorizontalCollectionGadget : PXGadgetViewController { -provider }
-PUHorizontalAlbumListGadget : PXHorizontalCollectionGadget {
-  ~viewWillAppear: v@:B   ~collectionView:cellForItemAtIndexPath: @@:@@   ~collectionView @@:
-  collectionView:didSelectItemAtIndexPath: v@:@@   ~_gadgetAtIndexPath: @@:@   -reloadContentView
-  -showPeople   -showPlaces   -titleForCollection:   -subtitleForCollection:   -albumListCellContentView
-  provider @@:   ?gadgetType Q@: }
-PUAlbumGadget : NSObject { albumListCellContentView @@:   title @@:   gadgetType Q@:   -provider }
-PUAlbumListCell : UICollectionViewCell { albumListCellContentView @@: }
-PUAlbumListCellContentViewHelper : NSObject { albumCellSize {CGSize=dd}@: }
-PUAlbumListCellContentViewHelperConfiguration : NSObject { stackSize {CGSize=dd}@: }
-PUAlbumListCellContentView : UIView {
-  layoutSubviews v@:   setEditing:animated: v@:BB   title @@:   subtitle @@:   setSubtitle: v@:@
-  stackView @@:   _deleteButton @@:   _titleTextField @@:   _subtitleLabel @@:
-  gestureRecognizerShouldBegin: B@:@ }
-PUAlbumListViewController : UIViewController {
-  viewWillAppear: v@:B   viewDidLayoutSubviews v@:   setEditing:animated: v@:BB   reloadContentView v@:
-  collectionView:cellForItemAtIndexPath: @@:@@   didSelectItemAtIndexPath: v@:@   _handleDoneButton: v@:@
-  albumListCellContentView:performDeleteAction: v@:@@   subtitleForCollection: @@:@   collectionView @@:
-  _mainCollectionView @@:   _mainTableView @@:   _pickerBannerView @@:   collectionAtIndexPath: @@:@
-  _preparedAlbumListCellContentViewAtIndexPath: @@:@   indexPathForAlbumListCellContentView: @@:@
-  collectionView:canMoveItemAtIndexPath: B@:@@   isPlaceholderAtIndexPath: B@:@
-  showPeople B@:   showPlaces B@:   ~pu_wantsTabBarVisible B@:   -alwaysHideTabBar
-  -scrollViewWillBeginDragging:   -titleForCollection:   -provider }
-PUAlbumsGadgetViewController : PXGadgetViewController {
-  viewWillAppear: v@:B   ~collectionView @@:   _handleDoneButton: v@:@   -reloadContentView }
-UICollectionViewLayout : NSObject { -itemSize }
-PUSectionedGridLayout : UICollectionViewLayout { itemSize {CGSize=dd}@: }
-PUPhotosGridViewController : UICollectionViewController {
-  selectedAssets @@:   initiallyScrolledToBottom B@:   setInitiallyScrolledToBottom: v@:B
-  -assetCollection   -shouldShowSectionHeaders }
-PUPhotosAlbumViewController : PUPhotosGridViewController {
-  setAssetCollection:fetchResultContainingAssetCollection:filterPredicate:existingFetchResults: v@:@@@@
-  assetCollection @@:   ?setEditing:animated: v@:BB   ~pu_wantsTabBarVisible B@:   -_handleDoneButton:
-  ~selectedAssets @@:   ~_removeSelectedAssetsWithCompletion: v@:@?   shouldShowSectionHeaders B@:
-  ~initiallyScrolledToBottom B@:   ~setInitiallyScrolledToBottom: v@:B }
-PUZoomableGridViewController : PUPhotosGridViewController {
-  viewWillAppear: v@:B   -assetCollection   -_handleDoneButton:   -reloadContentView   ~selectedAssets @@: }
-PUOneUpViewController : UIViewController { -selectedAssets   -assetCollection }
-PUPhotoViewContentHelper : NSObject { imageContentFrame {CGRect={CGPoint=dd}{CGSize=dd}}@: }
-PUAssetViewModel : PUViewModel { wantsIrisBadgeVisible B@: }
-PUOneUpSettings : PXSettings {
-  +sharedInstance @@:   defaultMaximumZoomFactor d@:   setDefaultMaximumZoomFactor: v@:d }
-PUDeletePhotosActionController : NSObject { shouldSkipDeleteConfirmation B@: }
-PUAssetHidingHelper : NSObject {
-  assets @@:   setAssets: v@:@   applyHiddenState:completionHandler: v@:B@? }
-PXPhotosUIViewController : UIViewController {
-  viewModel @@:   viewDidAppear: v@:B   -viewProvider   -selectedAssets }
-PXPhotosContentController : NSObject { viewModel @@:   contentViewWillAppear: v@:B   -viewProvider }
-PXPhotosViewModel : NSObject { selectionManager @@: }
-PXCuratedLibraryUIViewController : UIViewController {
-  viewProvider @@:   viewWillAppear: v@:B   -viewModel   -_handleDoneButton:   -selectedAssets }
-PXCuratedLibraryViewProvider : NSObject { viewModel @@: }
-PXCuratedLibraryViewModel : NSObject { selectionManager @@: }
-PXSectionedSelectionManager : NSObject { selectionSnapshot @@: }
-PXSelectionSnapshot : NSObject { fetchSelectedObjects @@: }
-PHAssetChangeRequest : PHChangeRequest { +deleteAssets: v@:@ }
-PHAssetCollectionChangeRequest : PHChangeRequest {
-  addAssets: v@:@   removeAssets: v@:@   +deleteAssetCollections: v@:@
-  +changeRequestForAssetCollection:assets: @@:@@ }
-PHCollectionListChangeRequest : PHChangeRequest { +deleteCollectionLists: v@:@ }
-PHCollection : PHObject { localizedTitle @@:   -isTrashBin }
-PHCollectionList : PHCollection {
-  collections @@:   ?localizedTitle @@:   -title   -assetCollectionType   -assetCollectionSubtype
-  -isTrashBin }
-PHAssetCollection : PHCollection {
-  estimatedAssetCount Q@:   startsAtEnd B@:   keyAssetsAtEnd B@:   title @@:   ?localizedTitle @@:
-  isTrashBin B@:   assetCollectionType q@:   assetCollectionSubtype q@:
-  +fetchAssetCollectionsWithType:subtype:options: @@:qq@   +fetchMomentsWithOptions: @@:@
-  +transientAssetCollectionWithAssets:title: @@:@@ }
-PHAsset : PHObject {
-  +fetchAssetsInAssetCollection:options: @@:@@   +fetchKeyAssetsInAssetCollection:options: @@:@@ }
-PHFetchResult : NSObject { fetchedObjects @@: }
-UIDevice : NSObject { _tapticEngine @@: }
-_UITapticEngine : NSObject { actuateFeedback: v@:q }
-)";
+// Classes, each with methods that an iPhone's does not have: a stand-in with one of them would forgive a
+// message that was not asked for.
+constexpr const char* kLacking =
+    R"(UITabBar hidden PXUIButton viewidLoad PXNavigationListGadget provider albumListCellContentView
+PXCollectionsDataSourceManager _containsAnyAssets: canReorderCollection: PXHorizontalCollectionGadget
+provider PUHorizontalAlbumListGadget reloadContentView showPeople showPlaces titleForCollection:
+subtitleForCollection: albumListCellContentView PUAlbumGadget provider PUAlbumListViewController
+alwaysHideTabBar scrollViewWillBeginDragging: titleForCollection: provider PUAlbumsGadgetViewController
+reloadContentView UICollectionViewLayout itemSize PUPhotosGridViewController assetCollection
+shouldShowSectionHeaders PUPhotosAlbumViewController _handleDoneButton: PUZoomableGridViewController
+assetCollection _handleDoneButton: reloadContentView PUOneUpViewController selectedAssets assetCollection
+PXPhotosUIViewController viewProvider selectedAssets PXPhotosContentController viewProvider
+PXCuratedLibraryUIViewController viewModel _handleDoneButton: selectedAssets PHCollection isTrashBin
+PHCollectionList title assetCollectionType assetCollectionSubtype isTrashBin)";
 
-/// Without names of structures and places of arguments; BOOL as an iPhone has it.
-std::string plainEncoding(std::string encoding) {
-  encoding = std::regex_replace(encoding, std::regex("[A-Za-z]+=|[0-9]+"), "");
-  return std::regex_replace(encoding, std::regex("C"), "B");
-}
-
-void checkMethod(Class type, std::string method, std::istream& table) {
-  const char mark = std::string_view("~?-+").find(method[0]) == std::string_view::npos ? ' ' : method[0];
-  if (mark != ' ') method.erase(0, 1);
-  Class super = class_getSuperclass(type);
-  if (mark == '+') {
-    type = object_getClass(reinterpret_cast<id>(type));
-    super = object_getClass(reinterpret_cast<id>(super));
+TEST(PhotosUIClasses, LackWhatAnIPhoneLacks) {
+  std::istringstream words(kLacking);
+  Class type = nullptr;
+  for (std::string word; words >> word;) {
+    if (std::isupper(word.front())) {
+      type = objc_getClass(word.c_str());
+      ASSERT_NE(type, nullptr) << word;
+    } else {
+      EXPECT_EQ(class_getInstanceMethod(type, sel_registerName(word.c_str())), nullptr) << word;
+    }
   }
-  const SEL name = sel_registerName(method.c_str());
-  objc_method* const found = class_getInstanceMethod(type, name);
-  std::string encoding;
-  if (mark != '-') table >> encoding;
-  ASSERT_EQ(found == nullptr, mark == '-') << method;
-  if (mark == '-') return;
-  EXPECT_EQ(plainEncoding(method_getTypeEncoding(found)), plainEncoding(encoding)) << method;
-  if (mark != '?') EXPECT_EQ(found == class_getInstanceMethod(super, name), mark == '~') << method;
-}
-
-TEST(PhotosUIClasses, HaveTheMethodsOfAnIPhoneAndLackWhatItLacks) {
-  std::istringstream table(kClasses);
-  int classes = 0;
-  for (std::string name, colon, super, word; table >> name >> colon >> super >> word; ++classes) {
-    SCOPED_TRACE(name);
-    const Class type = objc_getClass(name.c_str());
-    ASSERT_NE(type, nullptr);
-    EXPECT_EQ(class_getName(class_getSuperclass(type)), super);
-    while (word.back() != '}' && table >> word && word != "}") checkMethod(type, word, table);
-  }
-  EXPECT_EQ(classes, 60);
 }
 
 class PhotosUI : public PlainPhone {
