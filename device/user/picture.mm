@@ -1,12 +1,13 @@
 #include "device/user/picture.hpp"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #import "device/frameworks/UIKit/NSStringDrawing.h"
 #import "device/frameworks/UIKit/UIKit.h"
 #include "device/user/screen.hpp"
-#include "device/user/svg_text.hpp"
+#include "device/user/xml.hpp"
 
 namespace device {
 namespace {
@@ -18,10 +19,22 @@ constexpr CGFloat kBorderInset = 7;
 /// How small a button's title is made to fit.
 constexpr CGFloat kSmallestTitle = 0.5;
 
+/// The attributes that fill a shape.
+std::string fill(UIColor* color) {
+  CGFloat red = 0, green = 0, blue = 0, alpha = 0;
+  [color getRed:&red green:&green blue:&blue alpha:&alpha];
+  const auto byte = [](CGFloat part) { return std::to_string(std::lround(255 * part)); };
+  return attribute("fill", "rgb(" + byte(red) + "," + byte(green) + "," + byte(blue) + ")") +
+         (alpha < 1 ? attribute("fill-opacity", alpha) : "");
+}
+
+std::string attributesOf(CGRect place) {
+  return attribute("x", place.origin.x) + attribute("y", place.origin.y) +
+         attribute("width", place.size.width) + attribute("height", place.size.height);
+}
+
 std::string rectangle(CGRect place, CGFloat radius, const std::string& look) {
-  return "<rect" + attribute("x", place.origin.x) + attribute("y", place.origin.y) +
-         attribute("width", place.size.width) + attribute("height", place.size.height) +
-         (radius > 0 ? attribute("rx", radius) : "") + look + "/>";
+  return "<rect" + attributesOf(place) + (radius > 0 ? attribute("rx", radius) : "") + look + "/>";
 }
 
 // Text, as wide as the phone measures it.
@@ -60,7 +73,7 @@ NSString* cutOff(NSString* text, UIFont* font, CGFloat width) {
 std::string svg(const Text& text, CGRect place) {
   if (![text.text length]) return "";
   UIFont* font = fittingFont(text, place.size.width);
-  const std::string shown = xml(cutOff(text.text, font, place.size.width));
+  const std::string shown = xml(textOf(cutOff(text.text, font, place.size.width)));
   if (shown.empty()) return "";
   const CGFloat size = [font pointSize];
   const bool isCentered = text.alignment == NSTextAlignmentCenter;
@@ -123,10 +136,8 @@ std::string content(UIImage* image, CGRect place) {
   NSData* data = sharpestData(image);
   if (![data length]) return "";
   const bool isPng = *static_cast<const unsigned char*>([data bytes]) == 0x89;
-  return "<image" + attribute("x", place.origin.x) + attribute("y", place.origin.y) +
-         attribute("width", place.size.width) + attribute("height", place.size.height) +
-         R"( preserveAspectRatio="none" href="data:image/)" + (isPng ? "png" : "jpeg") + ";base64," +
-         xml([data base64EncodedStringWithOptions:0]) + "\"/>";
+  return "<image" + attributesOf(place) + R"( preserveAspectRatio="none" href="data:image/)" +
+         (isPng ? "png" : "jpeg") + ";base64," + textOf([data base64EncodedStringWithOptions:0]) + "\"/>";
 }
 
 std::string contentOf(UIView* view, CGRect place) {
@@ -197,8 +208,8 @@ class Painter {
   std::string attributesOf(UIView* view, const UIViewLook& look, CGPoint center, CGRect place) const {
     std::string attributes;
     if (!blurring_) {
-      attributes += attribute("class", xml(NSStringFromClass([view class])));
-      if (NSString* text = [view accessibilityLabel]) attributes += attribute("aria-label", xml(text));
+      attributes += attribute("class", textOf(NSStringFromClass([view class])));
+      if (const std::string text = textOf(view); !text.empty()) attributes += attribute("aria-label", text);
       attributes += attribute("data-frame",
                               numbers({place.origin.x, place.origin.y, place.size.width, place.size.height}));
     }

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-@class NSArray, UIAlertController, UIView;
+@class NSArray, NSString, UIAlertController, UIView;
 
 namespace device {
 
@@ -13,6 +13,8 @@ inline constexpr double kTransparent = 0.01;
 
 // What is on the screen of this process's app, as a person sees it. Main thread only.
 
+/// As UTF-8; "" for nil. Half of a character that takes two units becomes U+FFFD.
+std::string textOf(NSString* text);
 /// What a view says to a person, "" for most.
 std::string textOf(UIView* view);
 

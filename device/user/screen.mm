@@ -84,7 +84,7 @@ std::string lineOf(const Sight& sight) {
   std::snprintf(place, sizeof place, " (%g %g %g %g)\n", frame.origin.x, frame.origin.y, frame.size.width,
                 frame.size.height);
   std::string line(static_cast<std::size_t>(2 * sight.depth), ' ');
-  line += [NSStringFromClass([sight.view class]) UTF8String];
+  line += textOf(NSStringFromClass([sight.view class]));
   if (const std::string text = textOf(sight.view); !text.empty()) line += " \"" + text + "\"";
   return line + place;
 }
@@ -105,10 +105,21 @@ bool isScreenMoving() {
   return std::ranges::any_of(sightsOnScreen(), [](const Sight& sight) { return [sight.view _isMoving]; });
 }
 
-std::string textOf(UIView* view) {
-  const char* text = [[view accessibilityLabel] UTF8String];
-  return text ? text : "";
+std::string textOf(NSString* text) {
+  const auto utf8 = [](NSString* part) -> std::string {
+    NSData* bytes = [part dataUsingEncoding:NSUTF8StringEncoding];
+    return bytes ? std::string(static_cast<const char*>([bytes bytes]), [bytes length]) : "\uFFFD";
+  };
+  if ([text canBeConvertedToEncoding:NSUTF8StringEncoding]) return utf8(text);
+  std::string characters;
+  for (NSRange next{}; NSMaxRange(next) < [text length];) {
+    next = [text rangeOfComposedCharacterSequenceAtIndex:NSMaxRange(next)];
+    characters += utf8([text substringWithRange:next]);
+  }
+  return characters;
 }
+
+std::string textOf(UIView* view) { return textOf([view accessibilityLabel]); }
 
 std::vector<UIView*> reachableViews() {
   const std::vector<Sight> sights = sightsOnScreen();
