@@ -191,7 +191,9 @@ class Painter {
     const CGSize size = look.bounds.size;
     const CGPoint center = {origin.x + look.center.x, origin.y + look.center.y};
     const CGRect place = {{center.x - size.width / 2, center.y - size.height / 2}, size};
+    const std::size_t before = svg_.size();
     svg_ += "<g" + attributesOf(view, look, center, place) + ">";
+    const std::size_t opened = svg_.size();
     const CGFloat radius = [[view layer] cornerRadius];
     if (UIBlurEffect* effect = blurOf(view)) paintBlur(view, effect, place, radius);
     if (isInReach(place)) {
@@ -202,6 +204,7 @@ class Painter {
     const CGPoint inside = {place.origin.x - look.bounds.origin.x, place.origin.y - look.bounds.origin.y};
     for (UIView* subview in [view subviews]) paint(subview, inside);
     if ([view clipsToBounds]) svg_ += "</g>";
+    if (blurring_ && svg_.size() == opened) return svg_.resize(before);
     svg_ += "</g>\n";
   }
 
@@ -221,8 +224,11 @@ class Painter {
   void openClip(CGRect place, CGFloat radius) {
     const std::string id = "clip" + std::to_string(++clips_);
     svg_ += "<clipPath" + attribute("id", id) + ">" + rectangle(place, radius, "") + "</clipPath><g" +
-            attribute("clip-path", "url(#" + id + ")") + ">";
+            attribute("clip-path", clip()) + ">";
   }
+
+  /// The one opened last.
+  std::string clip() const { return "url(#clip" + std::to_string(clips_) + ")"; }
 
   // What is behind glass is painted once more, blurred; without the glass in it, of which each would paint
   // all of that behind it again.
@@ -230,11 +236,11 @@ class Painter {
   void paintBlur(UIView* view, UIBlurEffect* effect, CGRect place, CGFloat radius) {
     openClip(place, radius);
     blurring_ = view;
-    reach_ = {{place.origin.x - 3 * kBlur, place.origin.y - 3 * kBlur},
-              {place.size.width + 6 * kBlur, place.size.height + 6 * kBlur}};
-    svg_ += "<g filter=\"url(#blur)\">";
+    blurred_ = place;
+    // Clipped twice: what is around the glass does not run into it, nor the other way round.
+    svg_ += "<g" + attribute("filter", "url(#blur)") + "><g" + attribute("clip-path", clip()) + ">";
     paintWindows();
-    svg_ += "</g></g>";
+    svg_ += "</g></g></g>";
     blurring_ = nil;
     isBehind_ = true;
     svg_ += rectangle(place, radius, tint(effect));
@@ -246,13 +252,13 @@ class Painter {
     return !isBehind_ || blurOf(view);
   }
 
-  bool isInReach(CGRect place) const { return !blurring_ || CGRectIntersectsRect(place, reach_); }
+  bool isInReach(CGRect place) const { return !blurring_ || CGRectIntersectsRect(place, blurred_); }
 
   std::string svg_;
   int clips_ = 0;
   /// The glass that is being painted.
   UIView* blurring_ = nil;
-  CGRect reach_{};
+  CGRect blurred_{};
   bool isBehind_ = true;
 };
 
@@ -277,8 +283,7 @@ std::string screenPicture() {
                         {screen.size.width + 2 * kBezel, screen.size.height + 2 * kBezel}};
   const std::string windows = Painter().paintedWindows();
   std::string svg =
-      R"(<svg xmlns="http://www.w3.org/2000/svg")" + attribute("width", phone.size.width) +
-      attribute("height", phone.size.height) +
+      R"(<svg xmlns="http://www.w3.org/2000/svg")" +
       attribute("viewBox", numbers({phone.origin.x, phone.origin.y, phone.size.width, phone.size.height})) +
       " font-family=\"Helvetica, Arial, sans-serif\">\n";
   svg += R"(<filter id="blur"><feGaussianBlur)" + attribute("stdDeviation", kBlur) + "/></filter>\n";
