@@ -30,7 +30,7 @@ std::vector<UIView*> reachableViews();
 
 bool isOnScreen(std::string_view text);
 
-/// Whether an animation can be seen to run.
+/// Whether an animation runs that can be seen, or is about to be.
 bool isScreenMoving();
 
 /// The alert or action sheet in front, nil without one.

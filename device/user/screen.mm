@@ -71,6 +71,16 @@ std::vector<Sight> sightsOnScreen() {
   return seen;
 }
 
+/// What comes into sight may not have reached it yet.
+bool isMoving(UIView* view) {
+  if ([view isHidden]) return false;
+  if ([view _isMoving]) return true;
+  for (UIView* subview in [view subviews]) {
+    if (isMoving(subview)) return true;
+  }
+  return false;
+}
+
 UIViewController* presentedInFront(UIWindow* window) {
   UIViewController* front = nil;
   UIViewController* next = [[window rootViewController] presentedViewController];
@@ -102,7 +112,10 @@ NSArray* windowsOnScreen() {
 }
 
 bool isScreenMoving() {
-  return std::ranges::any_of(sightsOnScreen(), [](const Sight& sight) { return [sight.view _isMoving]; });
+  for (UIWindow* window in windowsOnScreen()) {
+    if (isMoving(window)) return true;
+  }
+  return false;
 }
 
 std::string textOf(NSString* text) {
