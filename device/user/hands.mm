@@ -325,10 +325,10 @@ std::string screen(const Arguments&) {
   return screenText();
 }
 
-std::string picture(const Arguments&) {
+std::string picture(const Arguments& arguments) {
   settle();
   runUntil([] { return !isScreenMoving(); }, kLongestAnimation);
-  return screenPicture();
+  return screenPicture(arguments[0]);
 }
 
 std::string feltFeedback(const Arguments&) {
@@ -379,7 +379,7 @@ const std::map<std::string_view, Command> kCommands = {
     {"waitToSee", {2, waitToSee}},
     {"waitUntilGone", {2, waitUntilGone}},
     {"screen", {0, screen}},
-    {"picture", {0, picture}},
+    {"picture", {1, picture}},
     {"feltFeedback", {0, feltFeedback}},
     {"ownerRequest", {0, ownerRequest}},
     {"waitForOwnerRequest", {1, waitForOwnerRequest}},

@@ -275,9 +275,30 @@ constexpr std::string_view kStatusBar =
 constexpr std::string_view kNotch =
     R"(<path d="M78 -1h219c-5 0 -7 3 -7 7v4a20 20 0 0 1 -20 20h-165a20 20 0 0 1 -20 -20v-4c0 -4 -2 -7 -7 -7z"/>)";
 
+/// The system's sheet that asks for the owner, but for the reason. What is behind it is dimmed.
+constexpr std::string_view kOwnerSheet = R"svg(<rect width="375" height="812" fill-opacity="0.4"/>
+<rect x="52" y="296" width="271" height="224" rx="14" fill="white"/>
+<path transform="translate(167.5 314) scale(1.67)" fill="none" stroke="#0a7aff" stroke-width="1.4"
+  stroke-linecap="round" d="M1 7v-3a3 3 0 0 1 3 -3h3M17 1h3a3 3 0 0 1 3 3v3M23 17v3a3 3 0 0 1 -3 3h-3
+  M7 23h-3a3 3 0 0 1 -3 -3v-3M8 8v2M16 8v2M12.4 8v5.5h-1M8.3 16.5q3.7 3 7.4 0"/>
+<g font-size="17" text-anchor="middle"><text x="187.5" y="384" font-weight="bold">Face ID or Passcode</text>
+<path d="M52 432.5h271M52 476.5h271" stroke="#bfbfbf" stroke-width="0.5"/>
+<g fill="#0a7aff"><text x="187.5" y="460">Enter Passcode</text><text x="187.5" y="504">Cancel</text></g></g>
+)svg";
+
+std::string ownerSheet(const std::string& reason) {
+  NSString* text = [NSString stringWithUTF8String:reason.c_str()];
+  return "<g" + attribute("class", "OwnerSheet") + attribute("aria-label", reason) + ">" +
+         std::string(kOwnerSheet) +
+         svg({text, [UIFont systemFontOfSize:13], [UIColor blackColor], NSTextAlignmentCenter,
+              kSmallestTitle},
+             {{64, 394}, {247, 26}}) +
+         "</g>\n";
+}
+
 }  // namespace
 
-std::string screenPicture() {
+std::string screenPicture(const std::string& ownerRequest) {
   const CGRect screen = [[UIScreen mainScreen] bounds];
   const CGRect phone = {{-kBezel, -kBezel},
                         {screen.size.width + 2 * kBezel, screen.size.height + 2 * kBezel}};
@@ -291,6 +312,7 @@ std::string screenPicture() {
   svg += rectangle(phone, kScreenCorner + kBezel, R"( fill="#0b0b0d")");
   svg += "<g style=\"isolation:isolate\" clip-path=\"url(#screen)\">" + rectangle(screen, 0, "") + "\n";
   if (!windows.empty()) svg += windows + std::string(kStatusBar);
+  if (!ownerRequest.empty()) svg += ownerSheet(ownerRequest);
   return svg + std::string(kNotch) + "</g>\n</svg>\n";
 }
 

@@ -61,7 +61,9 @@ void User::waitUntilGone(std::string_view text, std::chrono::milliseconds patien
 }
 
 std::string User::screen() const { return perform({"screen"}); }
-std::string User::picture() const { return perform({"picture"}); }
+std::string User::picture(std::string_view ownerRequest) const {
+  return perform({"picture", std::string(ownerRequest)});
+}
 
 std::vector<int> User::feltFeedback() const {
   const std::string answer = perform({"feltFeedback"});

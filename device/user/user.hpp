@@ -66,8 +66,9 @@ class User {
 
   /// What is on screen: the visible view tree as indented lines `Class "text" (x y width height)`.
   std::string screen() const;
-  /// The phone with what is on its screen, once nothing moves there, as an SVG document.
-  std::string picture() const;
+  /// The phone with what is on its screen, once nothing moves there, as an SVG document. In front of the app
+  /// lies the system's sheet that asks for the owner, when its reason is passed.
+  std::string picture(std::string_view ownerRequest = "") const;
 
   /// The haptic feedback codes felt so far, oldest first.
   std::vector<int> feltFeedback() const;

@@ -13,7 +13,7 @@ class Picture : public EmptyScreen {
  protected:
   /// Whether the screen's picture, which is well formed, has these texts in this order.
   static ::testing::AssertionResult has(std::initializer_list<std::string_view> texts) {
-    const std::string svg = device::screenPicture();
+    const std::string svg = device::screenPicture("");
     const auto data =
         ask<"dataWithBytes:length:", Object>(hostType<"NSData">(), svg.data(), NSUInteger{svg.size()});
     const auto parser = makeObject<HostClass<"NSXMLParser">, "initWithData:">(data);
