@@ -1,18 +1,15 @@
-#include "device/demo/library_chapters.hpp"
-
 #include <string>
 #include <string_view>
 
+#include "device/demo/chapters.hpp"
 #include "device/system/process.hpp"
 
 namespace device {
 namespace {
 
-constexpr std::string_view kLockedAlbums = "/var/mobile/Library/velvault/lockedAlbums.plist";
-constexpr std::string_view kPadlock = "whitelock";
 constexpr std::int64_t kPlaces = 1000000203;
 
-/// Has the app look at the library again; answers its user.
+/// Has the app read the library again, and returns its user.
 const User& refreshed(const Phone& phone, std::string_view gallery) {
   const User& user = phone.in(gallery);
   user.tap("Refresh");
@@ -22,12 +19,11 @@ const User& refreshed(const Phone& phone, std::string_view gallery) {
 std::string onlyShopShows(const Phone& phone, std::string_view row) {
   expect(!refreshed(phone, kGallery).sees(row), "the other app does not show it");
   expect(refreshed(phone, kShopDemo).sees(row), "the demonstration does");
-  return "\"" + std::string(row) + "\" is gone from the other app; the demonstration goes on showing it";
+  return "\"" + std::string(row) + "\" is gone from the other app. The demonstration still shows it.";
 }
 
-std::string bothShow(const Phone& phone, std::string_view row) {
+void expectInBoth(const Phone& phone, std::string_view row) {
   for (const std::string_view app : {kGallery, kShopDemo}) expect(refreshed(phone, app).sees(row), row);
-  return "\"" + std::string(row) + "\" is in both";
 }
 
 int padlocksIn(const User& photos) {
@@ -37,7 +33,7 @@ int padlocksIn(const User& photos) {
   return count;
 }
 
-/// The Albums tab, made anew.
+/// The Albums tab, shown again.
 const User& albumsTab(const Phone& phone) {
   const User& photos = phone.in(kPhotos);
   for (const std::string_view tab : {"Photos", "Albums"}) photos.tap(tab);
@@ -54,41 +50,38 @@ void openAll(Story& story, Phone& phone) {
   }
   phone.compare({{kGallery, "Another app"}, {kPhotos, "Photos"}, {kShopDemo, "A shop's demonstration"}});
   story.step(
-      "\"Holidays\" is free again, and there is a folder \"Trips\" with an album \"North\". You open three "
+      "You unlock \"Holidays\" for good, and add a folder \"Trips\" with an album \"North\". You open three "
       "apps.",
       [&] {
         const User& photos = phone.open(kPhotos);
         photos.longPress("Holidays");
-        phone.in(kSpringBoard).waitForOwnerRequest();
-        phone.in(kSpringBoard).answerOwnerRequest(OwnerAnswer::success);
-        phone.onceHolds(kLockedAlbums, {});
+        phone.authenticate();
+        phone.waitForFile(kLockedAlbums, {});
         for (const std::string_view app : {kGallery, kShopDemo}) phone.open(app);
         albumsTab(phone).waitToSee("Holidays");
-        bothShow(phone, "Pets: 3 photos");
+        expectInBoth(phone, "Pets: 3 photos");
         for (const std::string_view row : {"North: 2 photos", "Holidays: 3 photos"})
           expect(phone.in(kGallery).sees(row), row);
         expect(!phone.in(kShopDemo).sees("North: 2 photos"), "it is in its folder");
         expect(phone.in(kShopDemo).sees("Holidays: 0 photos"), "they are hidden");
-        return std::string(
-            "the other app lists \"North\" beside its folder, and finds the photos of \"Holidays\" that "
-            "were\n"
-            "moved out of the camera roll; the demonstration is left as it is");
+        return "The other app lists \"North\" next to its folder, and the moved photos of \"Holidays\". The "
+               "demonstration does not.";
       });
 }
 
 void lockOne(Story& story, Phone& phone) {
   story.step("In Photos you hold your finger on \"Pets\".", [&] {
     phone.in(kPhotos).longPress("Pets");
-    phone.onceHolds(kLockedAlbums, {"Pets"});
+    phone.waitForFile(kLockedAlbums, {"Pets"});
     phone.in(kPhotos).waitToSee(kPadlock);
     const std::string gone = onlyShopShows(phone, "Pets: 3 photos");
     expect(phone.in(kGallery).sees("fetched Pets: nothing"), "its photos are refused");
-    return gone + ".\nAn app that asks for it by other ways finds its name, and nothing in it";
+    return gone + " What fetches it by its type finds its title, and nothing in it.";
   });
   story.step("In the settings you let other apps list locked albums.", [&] {
     phone.changeSettings({{"hideLockedFromApps", false}});
     refreshed(phone, kGallery).waitToSee("Pets: 0 photos");
-    return std::string("\"Pets: 0 photos\": the album is there, and none of its photos");
+    return "\"Pets: 0 photos\" in the other app: the album is there, without its photos.";
   });
 }
 
@@ -98,17 +91,17 @@ void hideSmartAlbums(Story& story, Phone& phone) {
     phone.changeSettings({{"showVideos", false}});
     const std::string gone = onlyShopShows(phone, "Videos: 1 photo");
     albumsTab(phone).waitUntilGone("Videos");
-    return gone + ", and Photos has lost them as well";
+    return gone + " Photos has lost them as well.";
   });
   story.step("You switch them on again, and hold your finger on \"Places\".", [&] {
     phone.changeSettings({});
-    bothShow(phone, "Videos: 1 photo");
+    expectInBoth(phone, "Videos: 1 photo");
     phone.in(kPhotos).longPress("Places");
-    phone.onceHolds(kLockedAlbums, {"Pets", "Places"});
+    phone.waitForFile(kLockedAlbums, {"Pets", "Places"});
     phone.waitUntil("a padlock on each of the two", [&] { return padlocksIn(phone.in(kPhotos)) == 2; });
     const std::string gone = onlyShopShows(phone, "Places: 1 photo");
     expect(!phone.in(kGallery).sees("Places"), "its name is gone as well");
-    return gone + ". In Photos it is locked";
+    return gone + " In Photos it is locked.";
   });
 }
 
@@ -118,14 +111,14 @@ void hideInFolder(Story& story, Phone& phone) {
     const User& gallery = refreshed(phone, kGallery);
     gallery.waitUntilGone("North: 2 photos");
     expect(gallery.sees("fetched North: nothing"), "its photos are refused");
-    return std::string("the other app shows it no more; the folder stays");
+    return "The other app no longer shows it. The folder stays.";
   });
   story.step("You open the folder in Photos.", [&] {
     const User& photos = phone.in(kPhotos);
     photos.tap("Trips");
     photos.waitUntilGone("See All");
     expect(!photos.sees("North"), "the album is not there");
-    return std::string("it is empty: \"North\" is left out there, too");
+    return "It is empty: \"North\" is left out there, too.";
   });
 }
 

@@ -36,7 +36,13 @@ std::string joined(const std::vector<std::string>& texts) {
   return "[" + all + "]";
 }
 
-std::string wordsFor(const AssetRow& photo) {
+std::string describe(const AlertText& alert) {
+  std::vector<std::string> rest = alert.fields;
+  rest.insert(rest.end(), alert.buttons.begin(), alert.buttons.end());
+  return alert.title + ": " + alert.message + " " + joined(rest);
+}
+
+std::string describe(const AssetRow& photo) {
   const auto date = static_cast<std::time_t>(photo.creationDate);
   char text[64];
   std::strftime(text, sizeof text, "Photo, %Y-%m-%d %H:%M:%S", std::gmtime(&date));
@@ -62,25 +68,42 @@ const User& Phone::in(std::string_view app) const {
 }
 
 std::vector<Picture> Phone::pictures() const {
-  std::vector<Picture> all;
-  const auto look = [&](std::string_view name, std::string_view caption) {
-    const auto app = apps_.find(name);
-    if (app == apps_.end()) return;
+  // What does not run, or has crashed, shows nothing.
+  const auto tryTo = [](const std::function<void()>& look) {
     try {
-      all.push_back({std::string(caption), app->second.user().picture()});
-    } catch (const std::runtime_error&) {
-      // It has crashed.
+      look();
+    } catch (const std::exception&) {
     }
   };
-  if (compared_.empty()) look(inFront_, "");
-  for (const auto& [app, caption] : compared_) look(app, caption);
+  std::string ownerRequest;
+  tryTo([&] { ownerRequest = in(kSpringBoard).ownerRequest(); });
+  std::vector<Picture> all;
+  const auto add = [&](std::string_view app, std::string_view caption) {
+    tryTo([&] {
+      const User& user = apps_.at(app).user();
+      all.push_back({std::string(caption), user.picture(ownerRequest), user.screen()});
+    });
+  };
+  if (compared_.empty()) add(inFront_, "");
+  for (const auto& [app, caption] : compared_) add(app, caption);
   return all;
 }
 
 void Phone::changeSettings(const std::map<std::string, Device::Preference>& preferences) const {
+  inFront_ = {};
   device_.writePreferences(preferences);
   device_.post(kReloadNotification);
-  letAppsGoOn();
+  letAppsRun();
+}
+
+std::string Phone::waitForOwnerRequest() const {
+  in(kSpringBoard).waitForOwnerRequest();
+  return in(kSpringBoard).ownerRequest();
+}
+
+void Phone::authenticate() const {
+  waitForOwnerRequest();
+  in(kSpringBoard).answerOwnerRequest(OwnerAnswer::success);
 }
 
 std::vector<AssetRow> Phone::inAlbum(std::string_view title) const {
@@ -90,29 +113,32 @@ std::vector<AssetRow> Phone::inAlbum(std::string_view title) const {
   return album == albums.end() ? std::vector<AssetRow>() : library.assetsInAlbum(album->identifier);
 }
 
+std::size_t Phone::hiddenIn(std::string_view title) const {
+  return static_cast<std::size_t>(std::ranges::count(inAlbum(title), true, &AssetRow::isHidden));
+}
+
 std::vector<AssetRow> Phone::inCameraRoll() const {
   std::vector<AssetRow> assets = device_.photoLibrary().allAssets();
   std::erase_if(assets, [](const AssetRow& asset) { return asset.isHidden; });
   return assets;
 }
 
-std::string Phone::onceHolds(std::string_view path, const std::vector<std::string>& strings) const {
-  const std::string name = std::filesystem::path(path).filename().native();
-  std::string told = name + " holds " + joined(strings);
-  waitUntil(told, [&] { return device_.strings(path) == strings; });
-  return told;
+std::string Phone::waitForFile(std::string_view path, const std::vector<std::string>& strings) const {
+  std::string result = std::filesystem::path(path).filename().native() + " holds " + joined(strings);
+  waitUntil(result, [&] { return device_.strings(path) == strings; });
+  return result;
 }
 
 void Phone::waitUntil(std::string_view expectation, const std::function<bool()>& condition) const {
   const auto deadline = std::chrono::steady_clock::now() + kPatience;
   while (!condition()) {
     expect(std::chrono::steady_clock::now() < deadline, expectation);
-    letAppsGoOn();
+    letAppsRun();
   }
 }
 
-void Phone::letAppsGoOn() const {
-  // An app that answers has been through what came before.
+void Phone::letAppsRun() const {
+  // An app that replies has handled what came before.
   for (const auto& [name, app] : apps_) app.user().screen();
 }
 

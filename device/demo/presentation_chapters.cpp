@@ -1,10 +1,9 @@
-#include "device/demo/presentation_chapters.hpp"
-
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "device/demo/chapters.hpp"
 #include "device/system/process.hpp"
 
 namespace device {
@@ -32,7 +31,7 @@ std::string tabsIn(const User& photos) {
 
 bool showsTabBar(const User& photos) { return photos.screen().find(kTabBar) != std::string::npos; }
 
-/// Photos is asked for its tabs when it starts.
+/// The tabs are chosen when Photos starts.
 const User& startedWith(Phone& phone, const Choices& choices) {
   phone.changeSettings(choices);
   const User& photos = phone.open(kPhotos);
@@ -45,15 +44,15 @@ void switchTabsOff(Story& story, Phone& phone) {
   story.step("You start Photos.", [&] {
     const std::string tabs = tabsIn(startedWith(phone, {}));
     expect(tabs == "[Photos, Memories, Shared, Albums]", "four tabs, not " + tabs);
-    return "its tabs are " + tabs;
+    return "Its tabs are " + tabs + ".";
   });
   Choices choices;
   const auto switchOff = [&](std::string_view tab, const std::string& key, const std::string& left) {
-    story.step("You switch \"" + std::string(tab) + "\" off and start it anew.", [&] {
+    story.step("You switch \"" + std::string(tab) + "\" off and restart it.", [&] {
       choices[key] = false;
       const std::string tabs = tabsIn(startedWith(phone, choices));
       expect(tabs == left, left + ", not " + tabs);
-      return "its tabs are " + tabs;
+      return "Its tabs are " + tabs + ".";
     });
   };
   switchOff("Memories", "showTabMemories", "[Photos, Shared, Albums]");
@@ -62,13 +61,13 @@ void switchTabsOff(Story& story, Phone& phone) {
     choices["showTabMoments"] = false;
     const User& photos = startedWith(phone, choices);
     expect(!showsTabBar(photos), "no tab bar");
-    return std::string("a single tab is left, and its bar is gone");
+    return "A single tab is left, and its bar is gone.";
   });
   story.step("You even switch \"Albums\" off.", [&] {
     choices["showTabAlbums"] = false;
     const User& photos = startedWith(phone, choices);
     expect(!showsTabBar(photos), "no tab bar");
-    return std::string("it stays: an app without a tab would show nothing");
+    return "It stays: an app without a tab would show nothing.";
   });
 }
 
@@ -83,7 +82,7 @@ void shrinkTiles(Story& story, Phone& phone) {
   story.step("You have your tabs back, and open all albums.", [&] {
     startedWith(phone, {}).tap("See All");
     expect(hasStacksOf(phone.in(kPhotos), "163"), "stacks of photos of 163 points");
-    return std::string("the photos of each are 163 points wide");
+    return "Each album's photos are 163 points wide.";
   });
   story.step("You switch to smaller tiles, and open them again.", [&] {
     phone.changeSettings({{"shrinkAlbums", true}});
@@ -92,13 +91,13 @@ void shrinkTiles(Story& story, Phone& phone) {
     photos.tap("See All");
     expect(hasStacksOf(photos, "109"), "stacks of photos of 109 points");
     expect(!hasStacksOf(photos, "163"), "no larger ones");
-    return std::string("they are 109 points wide, two thirds of what the screen's width gives an album");
+    return "They are 109 points wide: two thirds.";
   });
 }
 
-/// What the phone calls one of the photos of "Journey", from 0.
+/// What one of the photos of "Journey" says to a user, from 0.
 std::string photoOfJourney(const Phone& phone, std::size_t index) {
-  return wordsFor(phone.inAlbum("Journey").at(index));
+  return describe(phone.inAlbum("Journey").at(index));
 }
 
 void openLongAlbum(Story& story, Phone& phone) {
@@ -118,11 +117,11 @@ void openLongAlbum(Story& story, Phone& phone) {
     const User& photos = startedWith(phone, {});
     tapAll(photos, {"See All", "Journey"});
     expect(photos.sees(last) && !photos.sees(first), "its last photo is in sight, and its first is not");
-    return std::string("its newest photos are on screen");
+    return "Its newest photos are on screen.";
   });
   story.step("You scroll to its beginning.", [&] {
     phone.in(kPhotos).scrollTo("2024-10-27 – 2024-10-29");
-    return std::string("a header tells its days: \"2024-10-27 – 2024-10-29\"");
+    return "A header shows its days: \"2024-10-27 – 2024-10-29\".";
   });
   story.step("You open \"Camera Roll\".", [&] {
     const User& photos = phone.in(kPhotos);
@@ -131,7 +130,7 @@ void openLongAlbum(Story& story, Phone& phone) {
     photos.waitUntilGone("Journey");
     expect(photos.screen().find(kHeader) == std::string::npos, "no header");
     expect(!photos.sees(last), "the last photo of \"Journey\" was moved out of it");
-    return std::string("no header here; the last photo of \"Journey\" is not there");
+    return "It has no header. The last photo of \"Journey\" is hidden, and not there.";
   });
 }
 
@@ -149,24 +148,24 @@ void takeOutOfAlbum(Story& story, Phone& phone) {
     photos.back();
     photos.tap("Camera Roll");
     photos.waitToSee(last);
-    return std::string("it was in no other album: it is back in the camera roll");
+    return "It was in no other album, so it is back in the camera roll.";
   });
-  story.step("You touch it.", [&] {
+  story.step("You tap it.", [&] {
     photos.tap(last);
     photos.waitUntilGone("Select");
     expect(photos.screen().find(" 375 500)") != std::string::npos, "it is as wide as the screen");
     expect(!photos.sees("LIVE"), "no badge");
-    return std::string("it is shown alone, as wide as the screen");
+    return "It is shown alone, as wide as the screen.";
   });
   story.step(
-      "You switch the badge of live photos and the large zoom on, touch it again, and spread two fingers.",
+      "You switch the badge of live photos and the large zoom on, tap it again, and spread two fingers.",
       [&] {
         const User& again = startedWith(phone, {{"showLiveBadge", true}, {"increaseZoom", true}});
         tapAll(again, {"See All", "Camera Roll", last});
         again.waitToSee("LIVE");
         again.zoomIn(last);
         expect(again.screen().find(" 150000 200000)") != std::string::npos, "375 points have become 150000");
-        return std::string("it bears the badge, and is 400 times as large");
+        return "It has the badge, and is 400 times as wide.";
       });
 }
 

@@ -1,57 +1,42 @@
 #include "device/demo/story.hpp"
 
-#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 #include <utility>
 
 namespace device {
-
 namespace {
 
-void print(std::string_view before, std::string_view text) {
-  if (text.ends_with('\n')) text.remove_suffix(1);
-  std::string indented;
-  for (const char letter : text) {
-    indented += letter;
-    if (letter == '\n') indented += "         ";
-  }
-  std::printf("%.*s%s\n", static_cast<int>(before.size()), before.data(), indented.c_str());
+void print(std::string_view lead, std::string_view text) {
+  std::printf("%.*s%.*s\n", static_cast<int>(lead.size()), lead.data(), static_cast<int>(text.size()),
+              text.data());
   std::fflush(stdout);
 }
 
 }  // namespace
 
 void Story::chapter(std::string_view title) {
-  std::printf("\n%.*s\n", static_cast<int>(title.size()), title.data());
+  print("\n", title);
   chapters_.push_back({std::string(title), {}});
 }
 
-void Story::step(std::string_view text, const std::function<std::string()>& step) {
+void Story::step(std::string_view text, const std::function<std::string()>& perform) {
   print("  ", text);
-  Step told{.text = std::string(text), .answer = {}, .wentAsTold = true, .pictures = {}};
+  Step step{.number = ++steps_, .text = std::string(text), .result = {}, .passed = true, .pictures = {}};
   try {
-    told.answer = step();
+    step.result = perform();
   } catch (const std::exception& error) {
-    told.answer = error.what();
-    told.wentAsTold = false;
+    step.result = error.what();
+    step.passed = false;
   }
-  print(told.wentAsTold ? "      => " : "  NOT SO ", told.answer);
-  told.pictures = look_();
-  chapters_.back().steps.push_back(std::move(told));
+  step.pictures = look_();
+  print(step.passed ? "      => " : "      Failed: ", step.result);
+  passed_ += step.passed ? 1 : 0;
+  chapters_.back().steps.push_back(std::move(step));
 }
 
-int Story::steps() const {
-  std::size_t count = 0;
-  for (const Chapter& chapter : chapters_) count += chapter.steps.size();
-  return static_cast<int>(count);
-}
-
-int Story::failures() const {
-  std::ptrdiff_t count = 0;
-  for (const Chapter& chapter : chapters_)
-    count += std::ranges::count(chapter.steps, false, &Step::wentAsTold);
-  return static_cast<int>(count);
+std::string Story::summary() const {
+  return std::to_string(passed_) + " of " + std::to_string(steps_) + " steps passed";
 }
 
 void expect(bool holds, std::string_view expectation) {

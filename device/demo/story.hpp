@@ -7,18 +7,22 @@
 
 namespace device {
 
-/// A phone's screen as an SVG document, and what it shows; no words where there is only one phone.
+/// A phone's screen.
 struct Picture {
+  /// Which app it shows; "" where there is only one phone.
   std::string caption;
+  /// An SVG document.
   std::string svg;
+  /// The views on the screen, as indented lines.
+  std::string viewTree;
 };
 
-/// What was told, and how it went.
 struct Step {
+  int number;
   std::string text;
-  /// What the device answered, or what was expected in vain.
-  std::string answer;
-  bool wentAsTold;
+  /// What can be seen of it, or why it failed.
+  std::string result;
+  bool passed;
   /// Afterwards; none where there is nothing to see.
   std::vector<Picture> pictures;
 };
@@ -28,31 +32,32 @@ struct Chapter {
   std::vector<Step> steps;
 };
 
-/// Tells a story step by step, and whether the device did what it tells.
+/// Performs a story step by step, prints it, and keeps it for the page.
 class Story {
  public:
   /// Looks at the phone when a step is over.
   using Look = std::function<std::vector<Picture>()>;
   explicit Story(Look look) : look_(std::move(look)) {}
 
-  /// Heads what follows.
+  /// Begins the chapter of all steps that follow.
   void chapter(std::string_view title);
 
-  /// Tells one step, does it, and tells what the device answered. What `step` answers is that answer; when it
-  /// throws, the step did not go as told.
-  void step(std::string_view text, const std::function<std::string()>& step);
+  /// Performs one step, which returns its result. It fails by throwing a std::exception.
+  void step(std::string_view text, const std::function<std::string()>& perform);
 
   const std::vector<Chapter>& chapters() const { return chapters_; }
-  int steps() const;
-  /// How many steps did not go as told.
-  int failures() const;
+  bool passed() const { return passed_ == steps_; }
+  /// "57 of 58 steps passed"
+  std::string summary() const;
 
  private:
   Look look_;
   std::vector<Chapter> chapters_;
+  int steps_ = 0;
+  int passed_ = 0;
 };
 
-/// For a step's answer: throws std::runtime_error with what was expected unless it holds.
+/// Throws std::runtime_error with the expectation unless it holds.
 void expect(bool holds, std::string_view expectation);
 
 }  // namespace device
