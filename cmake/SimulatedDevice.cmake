@@ -1,10 +1,11 @@
 # Sets SIMULATED_DEVICE where clang and the libraries that the simulated device is made of are there.
 
 find_package(GNUstep)
-find_package(SQLite3)
+find_package(SQLiteCpp)
+find_package(nlohmann_json)
 
 set(SIMULATED_DEVICE OFF)
-if(GNUstep_FOUND AND SQLite3_FOUND AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+if(GNUstep_FOUND AND SQLiteCpp_FOUND AND nlohmann_json_FOUND AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   set(SIMULATED_DEVICE ON)
   set(CMAKE_OBJCXX_STANDARD 20)
   set(CMAKE_OBJCXX_COMPILER ${CMAKE_CXX_COMPILER})
