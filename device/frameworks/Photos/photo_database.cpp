@@ -1,15 +1,12 @@
 #include "device/frameworks/Photos/photo_database.hpp"
 
-#include <sqlite3.h>
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <SQLiteCpp/VariadicBind.h>
 
-#include <stdexcept>
-#include <type_traits>
 #include <utility>
 
 namespace device {
 namespace {
-
-constexpr int kBusyTimeoutMilliseconds = 10'000;
 
 constexpr const char* kSchema = R"(
   PRAGMA foreign_keys = ON;
@@ -43,109 +40,44 @@ constexpr const char* kAssetColumns =
     "SELECT identifier, mediaType, creationDate, isHidden, isFavorite, smartSubtype, color FROM asset ";
 constexpr const char* kOldestFirst = " ORDER BY creationDate, identifier";
 
-void check(sqlite3* connection, bool succeeded) {
-  if (!succeeded) throw std::runtime_error(std::string("photo library: ") + sqlite3_errmsg(connection));
+/// Prepares a statement with its parameters bound in order.
+template <class... Parameters>
+SQLite::Statement prepare(const SQLite::Database& database, const std::string& sql,
+                          const Parameters&... parameters) {
+  SQLite::Statement statement(database, sql);
+  SQLite::bind(statement, parameters...);
+  return statement;
 }
 
-/// One SQL statement with its parameters bound in order.
-class Statement {
- public:
-  template <class... Parameters>
-  Statement(sqlite3* connection, const std::string& sql, const Parameters&... parameters)
-      : connection_(connection) {
-    check(connection, sqlite3_prepare_v2(connection, sql.c_str(), -1, &statement_, nullptr) == SQLITE_OK);
-    int index = 0;
-    (bind(++index, parameters), ...);
-  }
-  ~Statement() { sqlite3_finalize(statement_); }
-  Statement(const Statement&) = delete;
-  Statement& operator=(const Statement&) = delete;
-
-  /// Whether there is one more row to read.
-  bool step() {
-    const int result = sqlite3_step(statement_);
-    check(connection_, result == SQLITE_ROW || result == SQLITE_DONE);
-    return result == SQLITE_ROW;
-  }
-
-  std::int64_t integer(int column) const { return sqlite3_column_int64(statement_, column); }
-  double real(int column) const { return sqlite3_column_double(statement_, column); }
-  std::string text(int column) const {
-    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
-    return bytes ? bytes : "";
-  }
-
- private:
-  template <class Value>
-  void bind(int index, const Value& value) {
-    if constexpr (std::is_integral_v<Value>) {
-      sqlite3_bind_int64(statement_, index, static_cast<std::int64_t>(value));
-    } else if constexpr (std::is_floating_point_v<Value>) {
-      sqlite3_bind_double(statement_, index, value);
-    } else {
-      const std::string_view text = value;
-      sqlite3_bind_text(statement_, index, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
-    }
-  }
-
-  sqlite3* connection_;
-  sqlite3_stmt* statement_ = nullptr;
-};
-
-/// A statement without a result is a transaction of its own, outside of a larger one.
 template <class... Parameters>
-void change(sqlite3* connection, const std::string& sql, const Parameters&... parameters) {
-  Statement(connection, sql, parameters...).step();
-}
-
-/// Several statements as one transaction, taken back unless committed.
-class Transaction {
- public:
-  explicit Transaction(sqlite3* connection) : connection_(connection) {
-    change(connection, "BEGIN IMMEDIATE");
-  }
-  ~Transaction() {
-    if (sqlite3_get_autocommit(connection_) == 0) {
-      sqlite3_exec(connection_, "ROLLBACK", nullptr, nullptr, nullptr);
-    }
-  }
-  Transaction(const Transaction&) = delete;
-  Transaction& operator=(const Transaction&) = delete;
-
-  void commit() { change(connection_, "COMMIT"); }
-
- private:
-  sqlite3* connection_;
-};
-
-template <class... Parameters>
-std::vector<CollectionRow> readCollections(sqlite3* connection, const std::string& condition,
+std::vector<CollectionRow> readCollections(const SQLite::Database& database, const std::string& condition,
                                            const Parameters&... parameters) {
   std::vector<CollectionRow> rows;
-  Statement statement(connection, kCollectionColumns + condition + " ORDER BY identifier", parameters...);
-  while (statement.step()) {
-    rows.push_back({.identifier = statement.integer(0),
-                    .title = statement.text(1),
-                    .isFolder = statement.integer(2) != 0,
-                    .parent = statement.integer(3),
-                    .subtype = statement.integer(4)});
+  SQLite::Statement row =
+      prepare(database, kCollectionColumns + condition + " ORDER BY identifier", parameters...);
+  while (row.executeStep()) {
+    rows.push_back({.identifier = row.getColumn(0),
+                    .title = row.getColumn(1),
+                    .isFolder = row.getColumn(2).getInt() != 0,
+                    .parent = row.getColumn(3),
+                    .subtype = row.getColumn(4)});
   }
   return rows;
 }
 
 template <class... Parameters>
-std::vector<AssetRow> readAssets(sqlite3* connection, const std::string& condition,
+std::vector<AssetRow> readAssets(const SQLite::Database& database, const std::string& condition,
                                  const Parameters&... parameters) {
   std::vector<AssetRow> rows;
-  Statement statement(connection, kAssetColumns + condition + kOldestFirst, parameters...);
-  while (statement.step()) {
-    rows.push_back({.identifier = statement.integer(0),
-                    .mediaType = static_cast<MediaType>(statement.integer(1)),
-                    .creationDate = statement.real(2),
-                    .isHidden = statement.integer(3) != 0,
-                    .isFavorite = statement.integer(4) != 0,
-                    .smartSubtype = statement.integer(5),
-                    .color = static_cast<std::uint32_t>(statement.integer(6))});
+  SQLite::Statement row = prepare(database, kAssetColumns + condition + kOldestFirst, parameters...);
+  while (row.executeStep()) {
+    rows.push_back({.identifier = row.getColumn(0),
+                    .mediaType = static_cast<MediaType>(row.getColumn(1).getInt()),
+                    .creationDate = row.getColumn(2),
+                    .isHidden = row.getColumn(3).getInt() != 0,
+                    .isFavorite = row.getColumn(4).getInt() != 0,
+                    .smartSubtype = row.getColumn(5),
+                    .color = row.getColumn(6)});
   }
   return rows;
 }
@@ -154,12 +86,10 @@ std::vector<AssetRow> readAssets(sqlite3* connection, const std::string& conditi
 
 PhotoDatabase::PhotoDatabase(const std::filesystem::path& file) {
   std::filesystem::create_directories(file.parent_path());
-  sqlite3* connection = nullptr;
-  const int result = sqlite3_open(file.c_str(), &connection);
-  connection_ = {connection, [](sqlite3* opened) { sqlite3_close(opened); }};
-  check(connection, result == SQLITE_OK);
-  sqlite3_busy_timeout(connection, kBusyTimeoutMilliseconds);
-  check(connection, sqlite3_exec(connection, kSchema, nullptr, nullptr, nullptr) == SQLITE_OK);
+  constexpr int kBusyTimeoutMilliseconds = 10'000;
+  database_ = std::make_shared<SQLite::Database>(file, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
+                                                 kBusyTimeoutMilliseconds);
+  database_->exec(kSchema);
 }
 
 std::int64_t PhotoDatabase::addAlbum(std::string_view title, std::int64_t folder) {
@@ -175,16 +105,17 @@ std::int64_t PhotoDatabase::addSyncedAlbum(std::string_view title) {
 }
 
 std::int64_t PhotoDatabase::addCollection(const CollectionRow& row) {
-  change(connection_.get(),
-         "INSERT INTO collection(identifier, title, isFolder, parent, subtype) "
-         "VALUES(nullif(?, 0), ?, ?, nullif(?, 0), ?)",
-         row.identifier, row.title, row.isFolder, row.parent, row.subtype);
-  return sqlite3_last_insert_rowid(connection_.get());
+  prepare(*database_,
+          "INSERT INTO collection(identifier, title, isFolder, parent, subtype) "
+          "VALUES(nullif(?, 0), ?, ?, nullif(?, 0), ?)",
+          row.identifier, row.title, row.isFolder, row.parent, row.subtype)
+      .exec();
+  return database_->getLastInsertRowid();
 }
 
 std::int64_t PhotoDatabase::reserveAlbum() {
   // The database gives no identifier twice, not even that of a row that is gone.
-  Transaction transaction(connection_.get());
+  SQLite::Transaction transaction(*database_, SQLite::TransactionBehavior::IMMEDIATE);
   const std::int64_t reserved = addAlbum("");
   removeCollection(reserved);
   transaction.commit();
@@ -192,41 +123,43 @@ std::int64_t PhotoDatabase::reserveAlbum() {
 }
 
 std::int64_t PhotoDatabase::addAsset(const AssetRow& asset) {
-  change(connection_.get(),
-         "INSERT INTO asset(mediaType, creationDate, isHidden, isFavorite, smartSubtype, color) "
-         "VALUES(?, ?, ?, ?, ?, ?)",
-         static_cast<int>(asset.mediaType), asset.creationDate, asset.isHidden, asset.isFavorite,
-         asset.smartSubtype, asset.color);
-  return sqlite3_last_insert_rowid(connection_.get());
+  prepare(*database_,
+          "INSERT INTO asset(mediaType, creationDate, isHidden, isFavorite, smartSubtype, color) "
+          "VALUES(?, ?, ?, ?, ?, ?)",
+          static_cast<int>(asset.mediaType), asset.creationDate, asset.isHidden, asset.isFavorite,
+          asset.smartSubtype, asset.color)
+      .exec();
+  return database_->getLastInsertRowid();
 }
 
 void PhotoDatabase::addToAlbum(std::int64_t asset, std::int64_t album) {
-  change(connection_.get(), "INSERT OR IGNORE INTO membership(asset, album) VALUES(?, ?)", asset, album);
+  prepare(*database_, "INSERT OR IGNORE INTO membership(asset, album) VALUES(?, ?)", asset, album).exec();
 }
 
 void PhotoDatabase::removeFromAlbum(std::int64_t asset, std::int64_t album) {
-  change(connection_.get(), "DELETE FROM membership WHERE asset = ? AND album = ?", asset, album);
+  prepare(*database_, "DELETE FROM membership WHERE asset = ? AND album = ?", asset, album).exec();
 }
 
 void PhotoDatabase::setHidden(std::int64_t asset, bool hidden) {
-  change(connection_.get(), "UPDATE asset SET isHidden = ? WHERE identifier = ?", hidden, asset);
+  prepare(*database_, "UPDATE asset SET isHidden = ? WHERE identifier = ?", hidden, asset).exec();
 }
 
 void PhotoDatabase::removeAsset(std::int64_t asset) {
-  change(connection_.get(), "DELETE FROM asset WHERE identifier = ?", asset);
+  prepare(*database_, "DELETE FROM asset WHERE identifier = ?", asset).exec();
 }
 
 void PhotoDatabase::renameCollection(std::int64_t collection, std::string_view title) {
-  change(connection_.get(), "UPDATE collection SET title = ? WHERE identifier = ?", title, collection);
+  prepare(*database_, "UPDATE collection SET title = ? WHERE identifier = ?", std::string(title), collection)
+      .exec();
 }
 
 void PhotoDatabase::removeCollection(std::int64_t collection) {
-  change(connection_.get(), "DELETE FROM collection WHERE identifier = ?", collection);
+  prepare(*database_, "DELETE FROM collection WHERE identifier = ?", collection).exec();
 }
 
 std::optional<std::string> PhotoDatabase::tryTransaction(const std::function<void()>& changes) {
   try {
-    Transaction transaction(connection_.get());
+    SQLite::Transaction transaction(*database_, SQLite::TransactionBehavior::IMMEDIATE);
     changes();
     transaction.commit();
     return std::nullopt;
@@ -236,33 +169,33 @@ std::optional<std::string> PhotoDatabase::tryTransaction(const std::function<voi
 }
 
 std::vector<CollectionRow> PhotoDatabase::collections(std::int64_t folder) const {
-  return readCollections(connection_.get(), "WHERE parent IS nullif(?, 0)", folder);
+  return readCollections(*database_, "WHERE parent IS nullif(?, 0)", folder);
 }
 
 std::vector<CollectionRow> PhotoDatabase::allAlbums() const {
-  return readCollections(connection_.get(), "WHERE NOT isFolder");
+  return readCollections(*database_, "WHERE NOT isFolder");
 }
 
 std::optional<CollectionRow> PhotoDatabase::collection(std::int64_t identifier) const {
-  auto rows = readCollections(connection_.get(), "WHERE identifier = ?", identifier);
+  auto rows = readCollections(*database_, "WHERE identifier = ?", identifier);
   if (rows.empty()) return std::nullopt;
   return std::move(rows.front());
 }
 
-std::vector<AssetRow> PhotoDatabase::allAssets() const { return readAssets(connection_.get(), ""); }
+std::vector<AssetRow> PhotoDatabase::allAssets() const { return readAssets(*database_, ""); }
 
 std::optional<AssetRow> PhotoDatabase::asset(std::int64_t identifier) const {
-  const auto rows = readAssets(connection_.get(), "WHERE identifier = ?", identifier);
+  const auto rows = readAssets(*database_, "WHERE identifier = ?", identifier);
   if (rows.empty()) return std::nullopt;
   return rows.front();
 }
 
 std::vector<AssetRow> PhotoDatabase::assetsInAlbum(std::int64_t album) const {
-  return readAssets(connection_.get(), "JOIN membership ON asset = identifier WHERE album = ?", album);
+  return readAssets(*database_, "JOIN membership ON asset = identifier WHERE album = ?", album);
 }
 
 std::vector<CollectionRow> PhotoDatabase::albumsContaining(std::int64_t asset) const {
-  return readCollections(connection_.get(), "JOIN membership ON album = identifier WHERE asset = ?", asset);
+  return readCollections(*database_, "JOIN membership ON album = identifier WHERE asset = ?", asset);
 }
 
 }  // namespace device

@@ -9,7 +9,9 @@
 #include <string_view>
 #include <vector>
 
-struct sqlite3;
+namespace SQLite {
+class Database;
+}
 
 namespace device {
 
@@ -88,7 +90,7 @@ class PhotoDatabase {
   std::vector<CollectionRow> albumsContaining(std::int64_t asset) const;
 
  private:
-  std::shared_ptr<sqlite3> connection_;
+  std::shared_ptr<SQLite::Database> database_;
 };
 
 }  // namespace device
