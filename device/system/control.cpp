@@ -4,11 +4,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <stdexcept>
 #include <string>
-#include <string_view>
-#include <vector>
+#include <utility>
 
 #include "device/system/process.hpp"
 
@@ -16,46 +16,31 @@ namespace device {
 namespace {
 
 namespace fs = std::filesystem;
-
-// An answer's first byte.
-constexpr char kResult = 'r';
-constexpr char kError = 'e';
+using nlohmann::json;
 
 fs::path socketOf(const fs::path& deviceFolder, pid_t app) {
   return deviceFolder / "run/control" / std::to_string(app);
 }
 
-// Each word is ended by a zero byte, which none contains.
-std::string joined(const std::vector<std::string>& command) {
-  std::string frame;
-  for (const std::string& word : command) frame.append(word, 0, word.find('\0')).push_back('\0');
-  return frame;
-}
+// What is no UTF-8 of a text is replaced.
+std::string frameOf(const json& value) { return value.dump(-1, ' ', false, json::error_handler_t::replace); }
 
-std::vector<std::string> split(std::string_view frame) {
-  std::vector<std::string> command;
-  for (std::size_t end; (end = frame.find('\0')) != frame.npos; frame.remove_prefix(end + 1)) {
-    command.emplace_back(frame.substr(0, end));
-  }
-  return command;
-}
-
-std::string answerTo(std::string_view frame) {
+std::string answerTo(const std::string& frame) {
   try {
-    return kResult + performHere(split(frame));
+    return frameOf({{"result", performHere(json::parse(frame))}});
   } catch (const std::exception& error) {
-    return kError + std::string(error.what());
+    return frameOf({{"error", error.what()}});
   }
 }
 
-std::string perform(const fs::path& socket, pid_t app, const std::vector<std::string>& command) {
+json perform(const fs::path& socket, pid_t app, const json& command) {
   const Descriptor connection = connectTo(socket);
   std::optional<std::string> answer;
-  if (connection && sendFrame(connection.get(), joined(command))) answer = receiveFrame(connection.get());
-  if (!answer || answer->empty()) throw std::runtime_error(endOf(app));
-  std::string text = answer->substr(1);
-  if (answer->front() == kError) throw std::runtime_error(text);
-  return text;
+  if (connection && sendFrame(connection.get(), frameOf(command))) answer = receiveFrame(connection.get());
+  if (!answer) throw std::runtime_error(endOf(app));
+  json read = json::parse(*answer);
+  if (read.contains("error")) throw std::runtime_error(read["error"].get<std::string>());
+  return std::move(read.at("result"));
 }
 
 }  // namespace
@@ -65,7 +50,7 @@ std::unique_ptr<FrameServer> serveControl() {
 }
 
 User userOf(const fs::path& deviceFolder, pid_t app) {
-  return User([socket = socketOf(deviceFolder, app), app](const std::vector<std::string>& command) {
+  return User([socket = socketOf(deviceFolder, app), app](const json& command) {
     return perform(socket, app, command);
   });
 }

@@ -1,20 +1,22 @@
 #include <algorithm>
-#include <charconv>
 #include <cmath>
+#include <functional>
 #include <map>
 #include <stdexcept>
+#include <tuple>
+#include <type_traits>
 
 #import "device/frameworks/UIKit/UIKit.h"
 #include "device/frameworks/owner.hpp"
 #include "device/system/run_loop.hpp"
-#include "device/user/alert_text.hpp"
 #include "device/user/picture.hpp"
 #include "device/user/screen.hpp"
-#include "device/user/user.hpp"
+#include "device/user/user_json.hpp"
 
 namespace device {
 namespace {
 
+using nlohmann::json;
 using std::chrono::milliseconds;
 
 /// How long a step waits for the screen to come to rest.
@@ -26,9 +28,7 @@ constexpr milliseconds kLongestAnimation{1000};
   throw std::runtime_error(what + "; on screen:\n" + screenText());
 }
 
-std::string quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
-
-std::string yesOrNo(bool holds) { return holds ? "yes" : "no"; }
+std::string inQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 std::string utf8(NSString* text) {
   const char* bytes = [text UTF8String];
@@ -120,7 +120,7 @@ UIView* find(std::string_view text) {
     if (![view isKindOfClass:[UIScrollView class]]) continue;
     if (UIView* found = scrolledTo(static_cast<UIScrollView*>(view), text)) return found;
   }
-  fail("nothing to touch reads " + quoted(text));
+  fail("nothing to touch reads " + inQuotes(text));
 }
 
 /// What a finger put on the middle of the view touches, which may be something that covers it.
@@ -221,182 +221,164 @@ bool zoomsIn(UIView* view) {
 
 // The commands.
 
-using Arguments = std::vector<std::string>;
+void tap(const std::string& text) { touch(find(text)); }
 
-std::string tap(const Arguments& arguments) {
-  touch(find(arguments[0]));
-  return {};
-}
+void scrollTo(const std::string& text) { find(text); }
 
-std::string scrollTo(const Arguments& arguments) {
-  find(arguments[0]);
-  return {};
-}
+void longPress(const std::string& text) { hold(find(text)); }
 
-std::string longPress(const Arguments& arguments) {
-  hold(find(arguments[0]));
-  return {};
-}
-
-std::string zoomIn(const Arguments& arguments) {
-  UIView* target = find(arguments[0]);
-  if (!isTaken(chainOf(touchedAt(target)), zoomsIn)) fail("nothing zooms around " + quoted(arguments[0]));
+void zoomIn(const std::string& text) {
+  UIView* target = find(text);
+  if (!isTaken(chainOf(touchedAt(target)), zoomsIn)) fail("nothing zooms around " + inQuotes(text));
   settle();
-  return {};
 }
 
-std::string type(const Arguments& arguments) {
+void type(const std::string& text) {
   settle();
   for (UIView* view : reachableViews()) {
     if (![view isKindOfClass:[UITextField class]] || ![view isUserInteractionEnabled]) continue;
     UITextField* field = static_cast<UITextField*>(view);
-    [field setText:[NSString stringWithUTF8String:arguments[0].c_str()]];
+    [field setText:[NSString stringWithUTF8String:text.c_str()]];
     [field sendActionsForControlEvents:UIControlEventEditingChanged];
     settle();
-    return {};
+    return;
   }
   fail("no text field to type into");
 }
 
-std::string back(const Arguments&) {
+void back() {
   settle();
   for (UIView* view : reachableViews()) {
-    if (![[view accessibilityIdentifier] isEqualToString:@"BackButton"]) continue;
-    touch(view);
-    return {};
+    if ([[view accessibilityIdentifier] isEqualToString:@"BackButton"]) return touch(view);
   }
   fail("no back button");
 }
 
-std::string leaveApp(const Arguments&) {
+void leaveApp() {
   [application() _enterBackground];
   settle();
-  return {};
 }
 
-std::string returnToApp(const Arguments&) {
+void returnToApp() {
   [application() _enterForeground];
   settle();
-  return {};
 }
 
 std::string fieldText(UITextField* field) {
   return utf8([field placeholder]) + ([field isSecureTextEntry] ? " (secure)" : "");
 }
 
-std::string alert(const Arguments&) {
+AlertText alert() {
   settle();
   UIAlertController* front = alertInFront();
   if (!front) fail("no alert");
   AlertText text{.title = utf8([front title]), .message = utf8([front message]), .fields = {}, .buttons = {}};
   for (UITextField* field in [front textFields]) text.fields.push_back(fieldText(field));
   for (UIAlertAction* action in [front actions]) text.buttons.push_back(utf8([action title]));
-  return encode(text);
+  return text;
 }
 
-std::string hasAlert(const Arguments&) {
+bool hasAlert() {
   settle();
-  return yesOrNo(alertInFront() != nil);
+  return alertInFront() != nil;
 }
 
-std::string sees(const Arguments& arguments) {
+bool sees(const std::string& text) {
   settle();
-  return yesOrNo(isOnScreen(arguments[0]));
+  return isOnScreen(text);
 }
 
-milliseconds patience(const std::string& text) {
-  milliseconds::rep count = 0;
-  std::from_chars(text.data(), text.data() + text.size(), count);
-  return milliseconds(count);
+void waitToSee(const std::string& text, int patience) {
+  if (!runUntil([&] { return isOnScreen(text); }, milliseconds(patience))) {
+    fail("waited in vain to see " + inQuotes(text));
+  }
 }
 
-std::string waitToSee(const Arguments& arguments) {
-  if (runUntil([&] { return isOnScreen(arguments[0]); }, patience(arguments[1]))) return {};
-  fail("waited in vain to see " + quoted(arguments[0]));
+void waitUntilGone(const std::string& text, int patience) {
+  if (!runUntil([&] { return !isOnScreen(text); }, milliseconds(patience))) {
+    fail("waited in vain for the end of " + inQuotes(text));
+  }
 }
 
-std::string waitUntilGone(const Arguments& arguments) {
-  if (runUntil([&] { return !isOnScreen(arguments[0]); }, patience(arguments[1]))) return {};
-  fail("waited in vain for the end of " + quoted(arguments[0]));
-}
-
-std::string screen(const Arguments&) {
+std::string screen() {
   settle();
   return screenText();
 }
 
-std::string picture(const Arguments& arguments) {
+std::string picture(const std::string& ownerRequest) {
   settle();
   runUntil([] { return !isScreenMoving(); }, kLongestAnimation);
-  return screenPicture(arguments[0]);
+  return screenPicture(ownerRequest);
 }
 
-std::string feltFeedback(const Arguments&) {
-  std::string codes;
+std::vector<int> feltFeedback() {
+  std::vector<int> codes;
   for (NSNumber* code in [[[UIDevice currentDevice] _tapticEngine] _feltFeedback]) {
-    codes += std::to_string([code integerValue]) + ' ';
+    codes.push_back([code intValue]);
   }
   return codes;
 }
 
-std::string ownerRequest(const Arguments&) { return pendingOwnerRequest(); }
-
-std::string waitForOwnerRequest(const Arguments& arguments) {
-  if (runUntil([] { return !pendingOwnerRequest().empty(); }, patience(arguments[0]))) return {};
-  fail("waited in vain for a request for the owner");
+void waitForOwnerRequest(int patience) {
+  if (!runUntil([] { return !pendingOwnerRequest().empty(); }, milliseconds(patience))) {
+    fail("waited in vain for a request for the owner");
+  }
 }
 
-std::string answerOwnerRequest(const Arguments& arguments) {
+void answerOwnerRequest(OwnerAnswer answer) {
   if (pendingOwnerRequest().empty()) fail("nobody asks for the owner");
-  answerPendingOwnerRequest(arguments[0] == "success"   ? OwnerAnswer::success
-                            : arguments[0] == "failure" ? OwnerAnswer::failure
-                                                        : OwnerAnswer::cancel);
-  return {};
+  answerPendingOwnerRequest(answer);
 }
 
-std::string setPasscode(const Arguments& arguments) {
-  device::setPasscode(arguments[0] == "yes");
-  return {};
+using Command = std::function<json(const json& command)>;
+
+/// The command that calls a function with its arguments, which must be of the function's own types.
+template <class Result, class... Arguments>
+Command calling(Result (*function)(Arguments...)) {
+  return [function](const json& command) -> json {
+    const auto call = command.get<std::tuple<std::string, std::decay_t<Arguments>...>>();
+    if (command != json(call)) throw std::runtime_error("no such step");
+    return std::apply(
+        [&](const std::string&, const auto&... arguments) -> json {
+          if constexpr (!std::is_void_v<Result>) return function(arguments...);
+          function(arguments...);
+          return nullptr;
+        },
+        call);
+  };
 }
 
-struct Command {
-  std::size_t argumentCount;
-  std::string (*perform)(const Arguments& arguments);
-};
-
-const std::map<std::string_view, Command> kCommands = {
-    {"tap", {1, tap}},
-    {"longPress", {1, longPress}},
-    {"scrollTo", {1, scrollTo}},
-    {"zoomIn", {1, zoomIn}},
-    {"type", {1, type}},
-    {"back", {0, back}},
-    {"leaveApp", {0, leaveApp}},
-    {"returnToApp", {0, returnToApp}},
-    {"alert", {0, alert}},
-    {"hasAlert", {0, hasAlert}},
-    {"sees", {1, sees}},
-    {"waitToSee", {2, waitToSee}},
-    {"waitUntilGone", {2, waitUntilGone}},
-    {"screen", {0, screen}},
-    {"picture", {1, picture}},
-    {"feltFeedback", {0, feltFeedback}},
-    {"ownerRequest", {0, ownerRequest}},
-    {"waitForOwnerRequest", {1, waitForOwnerRequest}},
-    {"answerOwnerRequest", {1, answerOwnerRequest}},
-    {"setPasscode", {1, setPasscode}},
+const std::map<std::string, Command> kCommands = {
+    {"tap", calling(tap)},
+    {"longPress", calling(longPress)},
+    {"scrollTo", calling(scrollTo)},
+    {"zoomIn", calling(zoomIn)},
+    {"type", calling(type)},
+    {"back", calling(back)},
+    {"leaveApp", calling(leaveApp)},
+    {"returnToApp", calling(returnToApp)},
+    {"alert", calling(alert)},
+    {"hasAlert", calling(hasAlert)},
+    {"sees", calling(sees)},
+    {"waitToSee", calling(waitToSee)},
+    {"waitUntilGone", calling(waitUntilGone)},
+    {"screen", calling(screen)},
+    {"picture", calling(picture)},
+    {"feltFeedback", calling(feltFeedback)},
+    {"ownerRequest", calling(pendingOwnerRequest)},
+    {"waitForOwnerRequest", calling(waitForOwnerRequest)},
+    {"answerOwnerRequest", calling(answerOwnerRequest)},
+    {"setPasscode", calling(setPasscode)},
 };
 
 }  // namespace
 
-std::string performHere(const std::vector<std::string>& command) {
-  const auto known = command.empty() ? kCommands.end() : kCommands.find(command.front());
-  if (known == kCommands.end() || known->second.argumentCount + 1 != command.size()) {
-    throw std::runtime_error("no such step");
-  }
+json performHere(const json& command) {
   application();
   @autoreleasepool {
-    return known->second.perform({command.begin() + 1, command.end()});
+    const auto known = kCommands.find(command.at(0).get<std::string>());
+    if (known == kCommands.end()) throw std::runtime_error("no such step");
+    return known->second(command);
   }
 }
 

@@ -1,45 +1,36 @@
 #include "device/user/user.hpp"
 
-#include <charconv>
-#include <utility>
+#include <stdexcept>
+#include <type_traits>
 
-#include "device/user/alert_text.hpp"
+#include "device/user/user_json.hpp"
 
 namespace device {
-namespace {
-
-std::string milliseconds(std::chrono::milliseconds patience) { return std::to_string(patience.count()); }
-
-constexpr std::string_view nameOf(OwnerAnswer answer) {
-  switch (answer) {
-    case OwnerAnswer::success:
-      return "success";
-    case OwnerAnswer::failure:
-      return "failure";
-    case OwnerAnswer::cancel:
-      return "cancel";
-  }
-  return "";
-}
-
-}  // namespace
 
 User::User(Hands hands) : hands_(std::move(hands)) {}
 
 User User::here() { return User(performHere); }
 
-std::string User::perform(const std::vector<std::string>& command) const { return hands_(command); }
+template <class Result>
+Result User::perform(const nlohmann::json& command) const {
+  try {
+    const nlohmann::json result = hands_(command);
+    if constexpr (!std::is_void_v<Result>) return result.get<Result>();
+  } catch (const nlohmann::json::exception& error) {
+    throw std::runtime_error(std::string("the app's reply is damaged: ") + error.what());
+  }
+}
 
-void User::tap(std::string_view text) const { perform({"tap", std::string(text)}); }
-void User::scrollTo(std::string_view text) const { perform({"scrollTo", std::string(text)}); }
-void User::zoomIn(std::string_view text) const { perform({"zoomIn", std::string(text)}); }
-void User::longPress(std::string_view text) const { perform({"longPress", std::string(text)}); }
-void User::type(std::string_view text) const { perform({"type", std::string(text)}); }
+void User::tap(std::string_view text) const { perform({"tap", text}); }
+void User::scrollTo(std::string_view text) const { perform({"scrollTo", text}); }
+void User::zoomIn(std::string_view text) const { perform({"zoomIn", text}); }
+void User::longPress(std::string_view text) const { perform({"longPress", text}); }
+void User::type(std::string_view text) const { perform({"type", text}); }
 void User::back() const { perform({"back"}); }
 void User::leaveApp() const { perform({"leaveApp"}); }
 void User::returnToApp() const { perform({"returnToApp"}); }
 
-Alert User::alert() const { return {decodeAlertText(perform({"alert"})), *this}; }
+Alert User::alert() const { return {perform<AlertText>({"alert"}), *this}; }
 
 const Alert& Alert::type(std::string_view text) const {
   user_.type(text);
@@ -48,45 +39,33 @@ const Alert& Alert::type(std::string_view text) const {
 
 void Alert::tap(std::string_view button) const { user_.tap(button); }
 
-bool User::hasAlert() const { return perform({"hasAlert"}) == "yes"; }
+bool User::hasAlert() const { return perform<bool>({"hasAlert"}); }
 
-bool User::sees(std::string_view text) const { return perform({"sees", std::string(text)}) == "yes"; }
+bool User::sees(std::string_view text) const { return perform<bool>({"sees", text}); }
 
 void User::waitToSee(std::string_view text, std::chrono::milliseconds patience) const {
-  perform({"waitToSee", std::string(text), milliseconds(patience)});
+  perform({"waitToSee", text, patience.count()});
 }
 
 void User::waitUntilGone(std::string_view text, std::chrono::milliseconds patience) const {
-  perform({"waitUntilGone", std::string(text), milliseconds(patience)});
+  perform({"waitUntilGone", text, patience.count()});
 }
 
-std::string User::screen() const { return perform({"screen"}); }
+std::string User::screen() const { return perform<std::string>({"screen"}); }
 std::string User::picture(std::string_view ownerRequest) const {
-  return perform({"picture", std::string(ownerRequest)});
+  return perform<std::string>({"picture", ownerRequest});
 }
 
-std::vector<int> User::feltFeedback() const {
-  const std::string answer = perform({"feltFeedback"});
-  std::vector<int> codes;
-  const char* next = answer.data();
-  const char* const end = next + answer.size();
-  for (int code = 0; next < end; ++next) {
-    next = std::from_chars(next, end, code).ptr;
-    codes.push_back(code);
-  }
-  return codes;
-}
+std::vector<int> User::feltFeedback() const { return perform<std::vector<int>>({"feltFeedback"}); }
 
-std::string User::ownerRequest() const { return perform({"ownerRequest"}); }
+std::string User::ownerRequest() const { return perform<std::string>({"ownerRequest"}); }
 
 void User::waitForOwnerRequest(std::chrono::milliseconds patience) const {
-  perform({"waitForOwnerRequest", milliseconds(patience)});
+  perform({"waitForOwnerRequest", patience.count()});
 }
 
-void User::answerOwnerRequest(OwnerAnswer answer) const {
-  perform({"answerOwnerRequest", std::string(nameOf(answer))});
-}
+void User::answerOwnerRequest(OwnerAnswer answer) const { perform({"answerOwnerRequest", answer}); }
 
-void User::setPasscode(bool present) const { perform({"setPasscode", present ? "yes" : "no"}); }
+void User::setPasscode(bool present) const { perform({"setPasscode", present}); }
 
 }  // namespace device

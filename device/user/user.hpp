@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <functional>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -31,8 +32,8 @@ class Alert;
 /// lost) throws std::runtime_error, whose text ends with what was on screen.
 class User {
  public:
-  /// Carries one command to an app and brings back its answer.
-  using Hands = std::function<std::string(const std::vector<std::string>& command)>;
+  /// Carries one command, an array of its name and its arguments, to an app and brings back its result.
+  using Hands = std::function<nlohmann::json(const nlohmann::json& command)>;
   explicit User(Hands hands);
 
   /// The user of the app that this very process is. Main thread only: each step runs the run loop.
@@ -81,7 +82,8 @@ class User {
   void setPasscode(bool present) const;
 
  private:
-  std::string perform(const std::vector<std::string>& command) const;
+  template <class Result = void>
+  Result perform(const nlohmann::json& command) const;
   Hands hands_;
 };
 
@@ -99,6 +101,7 @@ class Alert : public AlertText {
 };
 
 /// Performs one command of `User` in this process's app, running the run loop as needed. Main thread only.
-std::string performHere(const std::vector<std::string>& command);
+/// Throws std::exception for a command that `User` does not send.
+nlohmann::json performHere(const nlohmann::json& command);
 
 }  // namespace device
