@@ -26,7 +26,7 @@ class Descriptor {
 };
 
 /// How long a send waits for a peer that does not read.
-inline constexpr std::chrono::seconds kSendLimit{5};
+inline constexpr std::chrono::seconds kSendLimit{60};
 /// A longer frame is taken for damage.
 inline constexpr std::size_t kMostFrameBytes = 64 << 20;
 

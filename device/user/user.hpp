@@ -10,7 +10,7 @@
 
 namespace device {
 
-inline constexpr std::chrono::milliseconds kPatience{10'000};
+inline constexpr std::chrono::milliseconds kPatience{60'000};
 
 /// How the phone's owner meets a request for Touch ID or the passcode.
 enum class OwnerAnswer { success, failure, cancel };

@@ -86,7 +86,7 @@ std::vector<AssetRow> readAssets(const SQLite::Database& database, const std::st
 
 PhotoDatabase::PhotoDatabase(const std::filesystem::path& file) {
   std::filesystem::create_directories(file.parent_path());
-  constexpr int kBusyTimeoutMilliseconds = 10'000;
+  constexpr int kBusyTimeoutMilliseconds = 60'000;
   database_ = std::make_shared<SQLite::Database>(file, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
                                                  kBusyTimeoutMilliseconds);
   database_->exec(kSchema);
