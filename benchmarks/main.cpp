@@ -14,7 +14,7 @@
 #include <functional>
 #include <iostream>
 #include <iterator>
-#include <sstream>
+#include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -26,6 +26,8 @@
 #include "benchmarks/startup/constructor_benchmark.hpp"
 
 namespace velvault12::benchmarks {
+
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Figure, name, version, seconds)
 
 namespace {
 
@@ -47,23 +49,6 @@ const Group kGroups[] = {
     {"messages between processes", measureService},
 };
 
-void write(std::ostream& out, const Figures& figures) {
-  out.precision(17);
-  for (const auto& [name, version, seconds] : figures)
-    out << seconds << ' ' << static_cast<int>(version) << ' ' << name << '\n';
-}
-
-Figures read(std::istream& in) {
-  Figures figures;
-  Figure figure;
-  int version = 0;
-  while (in >> figure.seconds >> version && std::getline(in >> std::ws, figure.name)) {
-    figure.version = static_cast<Version>(version);
-    figures.push_back(figure);
-  }
-  return figures;
-}
-
 Figures measureInOwnProcess(const Group& group) {
   std::FILE* const told = std::tmpfile();
   const pid_t parent = getpid();
@@ -72,9 +57,7 @@ Figures measureInOwnProcess(const Group& group) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != parent) _exit(1);
     try {
-      std::ostringstream figures;
-      write(figures, group.measure());
-      std::fputs(figures.str().c_str(), told);
+      std::fputs(nlohmann::json(group.measure()).dump().c_str(), told);
       _exit(std::fflush(told) == 0 ? 0 : 1);
     } catch (const std::exception& error) {
       std::cerr << group.name << ": " << error.what() << '\n';
@@ -85,11 +68,9 @@ Figures measureInOwnProcess(const Group& group) {
   if (process < 0 || waitpid(process, &status, 0) != process || status != 0)
     throw std::runtime_error(std::string("not measured: ") + group.name);
   std::rewind(told);
-  std::string text;
-  for (int c = std::fgetc(told); c != EOF; c = std::fgetc(told)) text += static_cast<char>(c);
+  const auto figures = nlohmann::json::parse(told).get<Figures>();
   std::fclose(told);
-  std::istringstream in(text);
-  return read(in);
+  return figures;
 }
 
 /// Both are of the same cases.
