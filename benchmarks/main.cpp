@@ -47,6 +47,7 @@ const Group kGroups[] = {
     {"selections", measureAlbumSelection},
     {"methods that are handed on", measurePassThrough},
     {"messages between processes", measureService},
+    {"message load", measureLoad},
 };
 
 Figures measureInOwnProcess(const Group& group) {

@@ -9,4 +9,8 @@ namespace velvault12::benchmarks {
 /// with it, and opens the album at once.
 Figures measureService();
 
+/// How long "savearray" messages wait to be served while many processes send them at once. Throws when one is
+/// lost or out of order.
+Figures measureLoad();
+
 }  // namespace velvault12::benchmarks

@@ -1,10 +1,13 @@
-// One file, several processes: whole arrays or nothing, and only SpringBoard writes where the apps share.
+// One file, several processes: no save is lost or overtaken, and only SpringBoard writes where the apps
+// share.
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include <algorithm>
+#include <deque>
 
 #include "host/app_support.hpp"
+#include "host/springboard.hpp"
 #include "startup/service_messages.hpp"
 #include "tests/device/forked_process.hpp"
 #include "tests/device/frameworks/plain_phone.hpp"
@@ -16,56 +19,41 @@ using namespace std::string_literals;
 
 class SharedWriting : public PhoneTest {
  protected:
-  static constexpr int kRounds = 1000;
+  static constexpr int kSenders = 8;
+  static constexpr int kSaves = 100;
 
-  /// The array of one writer's one round: the same text all over, in another length for each writer.
-  static Titles arrayOf(char writer, int round) {
-    return Titles(writer == 'A' ? 60 : 80, writer + std::to_string(round) + ' ' + std::string(200, writer));
+  /// How many saves of each sender have been served.
+  static inline int served_[kSenders] = {};
+
+  static void noteSave(SpringBoard, Replaced<void(NSString, Object)> host, NSString name, Object userInfo) {
+    host(name, userInfo);
+    const Titles saved = userInfo.as<NSDictionary>()[key::kArray].as<NSArray>().strings();
+    EXPECT_EQ(NSArray::contentsOfFile(kLockedAlbums)->strings(), saved);
+    EXPECT_EQ(std::stoi(saved.at(1)), served_[std::stoi(saved.at(0))]++);
   }
-  static std::string doneFile(char writer) { return std::string(kStateFolder) + "/done" + writer; }
-  ForkedProcess::Life writer(char name) const {
-    return [this, name](const ForkedProcess& test) {
-      become("org.example.writer");
+  ForkedProcess::Life sender(int index) const {
+    return [this, index](const ForkedProcess& test) {
+      become("org.example.sender");
       const auto center = CPDistributedMessagingCenter::centerNamed(kServiceName);
-      const auto save = [&](const Titles& array, std::string_view path) {
+      // The others may take longer to begin than this one listens.
+      while (test.hear().empty()) continue;
+      for (int number = 0; number < kSaves; ++number) {
         const AutoreleasePool pool;
-        center.sendMessage(kSaveArrayMessage, dictionaryOf({{key::kArray, NSArray::from(array)},
-                                                            {key::kPath, NSString::from(path)}}));
-      };
-      for (int round = 0; round < kRounds; ++round) save(arrayOf(name, round), kLockedAlbums);
-      save({}, doneFile(name));
-      test.hear();
+        const NSArray array = NSArray::from({std::to_string(index), std::to_string(number)});
+        center.sendMessage(kSaveArrayMessage,
+                           dictionaryOf({{key::kArray, array}, {key::kPath, NSString::from(kLockedAlbums)}}));
+      }
     };
   }
 };
 
-TEST_F(SharedWriting, EveryReadIsOneWholeArrayAndTheLastWriteStays) {
-  const device::App springBoard = phone_.launch(device::kSpringBoard);
-  const ForkedProcess a(writer('A'));
-  const ForkedProcess b(writer('B'));
-  become("org.example.reader");
-
-  std::map<char, int> newest;
-  int reads = 0;
-  for (bool isLast = false; !isLast;) {
-    const AutoreleasePool pool;
-    // Asked first: what is read then is what stays.
-    isLast = hasFile(doneFile('A')) && hasFile(doneFile('B'));
-    const Ref<NSArray> file = NSArray::contentsOfFile(kLockedAlbums);
-    ASSERT_TRUE(file || reads == 0) << "after " << reads << " whole reads";
-    if (!file) continue;
-    ++reads;
-    const Titles array = file->strings();
-    const char writer = array.at(0).at(0);
-    const int round = std::stoi(array[0].substr(1));
-    ASSERT_EQ(array, arrayOf(writer, round));
-    ASSERT_GE(round, newest[writer]) << "an older array came back";
-    newest[writer] = round;
-    if (isLast) EXPECT_EQ(round, kRounds - 1);
-  }
-  EXPECT_GT(reads, 100);
-  const std::filesystem::directory_iterator files(phone_.onDisk(kStateFolder));
-  EXPECT_EQ(std::distance(begin(files), end(files)), 3) << "no draft is left";
+TEST_F(SharedWriting, SavesOfManySendersAreServedInOrder) {
+  std::deque<ForkedProcess> senders;
+  for (int index = 0; index < kSenders; ++index) senders.emplace_back(sender(index));
+  phone_.launchHere(device::kSpringBoard);
+  installHook(replace<noteSave>("SpringBoard", "handleMessageNamed:withUserInfo:", "v@:@@"));
+  for (const ForkedProcess& each : senders) each.say("save");
+  EXPECT_TRUE(soon([] { return std::ranges::min(served_) == kSaves; }));
 }
 
 class Sandbox : public PhoneTest {
