@@ -5,55 +5,78 @@
 
 // How the screens of later systems know what is selected in them. They draw no photos.
 
+namespace device {
+
+/// An instance variable that owns an object: at first a new one of its class.
+template <class Type>
+class Owned {
+ public:
+  Owned() : object_([[Type alloc] init]) {}
+  ~Owned() { [object_ release]; }
+  Owned(const Owned&) = delete;
+  Owned& operator=(const Owned&) = delete;
+
+  Type* get() const { return object_; }
+  void set(Type* object) {
+    [object_ autorelease];
+    object_ = [object retain];
+  }
+
+ private:
+  Type* object_;
+};
+
+}  // namespace device
+
 /// What was selected when it was taken.
 @interface PXSelectionSnapshot : NSObject {
-  NSArray* _objects;
+  device::Owned<NSArray> _objects;
 }
 /// No array.
 - (PHFetchResult*)fetchSelectedObjects;
 @end
 
 @interface PXSectionedSelectionManager : NSObject {
-  PXSelectionSnapshot* _selectionSnapshot;
+  device::Owned<PXSelectionSnapshot> _selectionSnapshot;
 }
-@property(nonatomic, readonly) PXSelectionSnapshot* selectionSnapshot;
+- (PXSelectionSnapshot*)selectionSnapshot;
 - (void)_selectObjects:(NSArray*)objects;
 @end
 
 @interface PXPhotosViewModel : NSObject {
-  PXSectionedSelectionManager* _selectionManager;
+  device::Owned<PXSectionedSelectionManager> _selectionManager;
 }
-@property(nonatomic, readonly) PXSectionedSelectionManager* selectionManager;
+- (PXSectionedSelectionManager*)selectionManager;
 @end
 
 @interface PXPhotosContentController : NSObject {
-  PXPhotosViewModel* _viewModel;
+  device::Owned<PXPhotosViewModel> _viewModel;
 }
-@property(nonatomic, readonly) PXPhotosViewModel* viewModel;
+- (PXPhotosViewModel*)viewModel;
 - (void)contentViewWillAppear:(BOOL)animated;
 @end
 
 /// Shows one content controller, whose view model is its own.
 @interface PXPhotosUIViewController : UIViewController {
-  PXPhotosContentController* _contentController;
+  device::Owned<PXPhotosContentController> _contentController;
 }
-@property(nonatomic, readonly) PXPhotosViewModel* viewModel;
+- (PXPhotosViewModel*)viewModel;
 @end
 
 @interface PXCuratedLibraryViewModel : NSObject {
-  PXSectionedSelectionManager* _selectionManager;
+  device::Owned<PXSectionedSelectionManager> _selectionManager;
 }
-@property(nonatomic, readonly) PXSectionedSelectionManager* selectionManager;
+- (PXSectionedSelectionManager*)selectionManager;
 @end
 
 @interface PXCuratedLibraryViewProvider : NSObject {
-  PXCuratedLibraryViewModel* _viewModel;
+  device::Owned<PXCuratedLibraryViewModel> _viewModel;
 }
-@property(nonatomic, readonly) PXCuratedLibraryViewModel* viewModel;
+- (PXCuratedLibraryViewModel*)viewModel;
 @end
 
 @interface PXCuratedLibraryUIViewController : UIViewController {
-  PXCuratedLibraryViewProvider* _viewProvider;
+  device::Owned<PXCuratedLibraryViewProvider> _viewProvider;
 }
-@property(nonatomic, readonly) PXCuratedLibraryViewProvider* viewProvider;
+- (PXCuratedLibraryViewProvider*)viewProvider;
 @end

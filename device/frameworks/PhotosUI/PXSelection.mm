@@ -4,73 +4,40 @@
 
 - (id)_initWithObjects:(NSArray*)objects {
   self = [super init];
-  if (self) _objects = [objects copy];
+  if (self) _objects.set([[objects copy] autorelease]);
   return self;
 }
 
-- (void)dealloc {
-  [_objects release];
-  [super dealloc];
-}
-
 - (PHFetchResult*)fetchSelectedObjects {
-  return [PHFetchResult _resultOf:_objects options:nil];
+  return [PHFetchResult _resultOf:_objects.get() options:nil];
 }
 
 @end
 
 @implementation PXSectionedSelectionManager
 
-@synthesize selectionSnapshot = _selectionSnapshot;
-
-- (id)init {
-  self = [super init];
-  if (self) [self _selectObjects:[NSArray array]];
-  return self;
-}
-
-- (void)dealloc {
-  [_selectionSnapshot release];
-  [super dealloc];
+- (PXSelectionSnapshot*)selectionSnapshot {
+  return _selectionSnapshot.get();
 }
 
 - (void)_selectObjects:(NSArray*)objects {
-  [_selectionSnapshot autorelease];
-  _selectionSnapshot = [[PXSelectionSnapshot alloc] _initWithObjects:objects];
+  _selectionSnapshot.set([[[PXSelectionSnapshot alloc] _initWithObjects:objects] autorelease]);
 }
 
 @end
 
 @implementation PXPhotosViewModel
 
-@synthesize selectionManager = _selectionManager;
-
-- (id)init {
-  self = [super init];
-  if (self) _selectionManager = [[PXSectionedSelectionManager alloc] init];
-  return self;
-}
-
-- (void)dealloc {
-  [_selectionManager release];
-  [super dealloc];
+- (PXSectionedSelectionManager*)selectionManager {
+  return _selectionManager.get();
 }
 
 @end
 
 @implementation PXPhotosContentController
 
-@synthesize viewModel = _viewModel;
-
-- (id)init {
-  self = [super init];
-  if (self) _viewModel = [[PXPhotosViewModel alloc] init];
-  return self;
-}
-
-- (void)dealloc {
-  [_viewModel release];
-  [super dealloc];
+- (PXPhotosViewModel*)viewModel {
+  return _viewModel.get();
 }
 
 - (void)contentViewWillAppear:(BOOL)animated {
@@ -80,24 +47,13 @@
 
 @implementation PXPhotosUIViewController
 
-- (id)init {
-  self = [super init];
-  if (self) _contentController = [[PXPhotosContentController alloc] init];
-  return self;
-}
-
-- (void)dealloc {
-  [_contentController release];
-  [super dealloc];
-}
-
 - (PXPhotosViewModel*)viewModel {
-  return [_contentController viewModel];
+  return [_contentController.get() viewModel];
 }
 
 - (void)viewWillAppear:(BOOL)animated {
   [super viewWillAppear:animated];
-  [_contentController contentViewWillAppear:animated];
+  [_contentController.get() contentViewWillAppear:animated];
 }
 
 - (void)viewDidAppear:(BOOL)animated {
@@ -108,51 +64,24 @@
 
 @implementation PXCuratedLibraryViewModel
 
-@synthesize selectionManager = _selectionManager;
-
-- (id)init {
-  self = [super init];
-  if (self) _selectionManager = [[PXSectionedSelectionManager alloc] init];
-  return self;
-}
-
-- (void)dealloc {
-  [_selectionManager release];
-  [super dealloc];
+- (PXSectionedSelectionManager*)selectionManager {
+  return _selectionManager.get();
 }
 
 @end
 
 @implementation PXCuratedLibraryViewProvider
 
-@synthesize viewModel = _viewModel;
-
-- (id)init {
-  self = [super init];
-  if (self) _viewModel = [[PXCuratedLibraryViewModel alloc] init];
-  return self;
-}
-
-- (void)dealloc {
-  [_viewModel release];
-  [super dealloc];
+- (PXCuratedLibraryViewModel*)viewModel {
+  return _viewModel.get();
 }
 
 @end
 
 @implementation PXCuratedLibraryUIViewController
 
-@synthesize viewProvider = _viewProvider;
-
-- (id)init {
-  self = [super init];
-  if (self) _viewProvider = [[PXCuratedLibraryViewProvider alloc] init];
-  return self;
-}
-
-- (void)dealloc {
-  [_viewProvider release];
-  [super dealloc];
+- (PXCuratedLibraryViewProvider*)viewProvider {
+  return _viewProvider.get();
 }
 
 - (void)viewWillAppear:(BOOL)animated {
