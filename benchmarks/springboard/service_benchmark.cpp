@@ -5,8 +5,8 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
-#include <sstream>
 #include <stdexcept>
 #include <utility>
 
@@ -27,17 +27,9 @@ namespace {
 
 const std::vector<std::string> kArray{"Album 3", "Album 4", "Album 5"};
 
-double now() {
-  return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
-}
+std::int64_t nanoseconds() { return std::chrono::steady_clock::now().time_since_epoch().count(); }
 
-/// Of seconds, to the nanosecond.
-std::string text(double seconds) {
-  std::ostringstream out;
-  out.precision(9);
-  out << std::fixed << seconds;
-  return out.str();
-}
+std::string since(std::int64_t start) { return std::to_string(nanoseconds() - start); }
 
 // SpringBoard without the library: what takes the messages does nothing, or nothing but what it is asked for.
 
@@ -46,7 +38,7 @@ constexpr std::string_view kSentAt = "sentAt";
 const ForkedProcess* bench = nullptr;
 
 void tellLatency(Object, NSString, Object userInfo) {
-  bench->say(text(now() - std::stod(*stringValue(NSDictionary(userInfo.get())[kSentAt]))));
+  bench->say(since(std::stoll(*stringValue(NSDictionary(userInfo.get())[kSentAt]))));
 }
 void saveOnly(Object, NSString, Object userInfo) {
   const NSDictionary request(userInfo.get());
@@ -116,16 +108,16 @@ ForkedProcess::Life sender(const Phone& phone, Version version) {
       // The others may be measured for longer than anybody listens.
       if (test.hear().empty()) continue;
       const AutoreleasePool turn;
-      const double start = now();
+      const std::int64_t start = nanoseconds();
       if (version == Version::library) {
         saveArray(kArray, kLockedAlbumsFile);
       } else {
-        if (version == Version::host) request->set(kSentAt, NSString::from(text(start)));
+        if (version == Version::host) request->set(kSentAt, NSString::from(std::to_string(start)));
         center.sendMessage(kSaveArrayMessage, request.get());
       }
       if (version == Version::host) continue;
       replacements.wait();
-      test.say(text(now() - start));
+      test.say(since(start));
     }
   };
 }
@@ -175,10 +167,10 @@ ForkedProcess::Life photos(const Phone& phone, Version version) {
     while (true) {
       if (test.hear().empty()) continue;
       const AutoreleasePool turn;
-      const double start = now();
+      const std::int64_t start = nanoseconds();
       list.select(PhotosApp::pathTo(last));
       if (!device::runUntil(isOpen, device::kPatience)) throw std::runtime_error("no album has opened");
-      test.say(text(now() - start));
+      test.say(since(start));
       PhotosApp::navigation().send<"popViewControllerAnimated:", Object(bool)>(false);
     }
   };
@@ -187,7 +179,7 @@ ForkedProcess::Life photos(const Phone& phone, Version version) {
 double secondsFrom(const ForkedProcess& process) {
   const std::string told = process.hear();
   if (told.empty()) throw std::runtime_error("nothing came of a message");
-  return std::stod(told);
+  return 1e-9 * static_cast<double>(std::stoll(told));
 }
 
 /// A phone in one version: its processes.

@@ -4,6 +4,7 @@
 #include <malloc.h>
 
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <stdexcept>
 
@@ -20,7 +21,10 @@
 
 namespace velvault12::benchmarks {
 
+using nlohmann::json;
+
 std::vector<EmptyRow> emptyRows;
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(EmptyRow, className, selector, encoding, isClassMethod, isAdded)
 
 namespace {
 
@@ -39,19 +43,14 @@ std::vector<EmptyRow> rowsIn(const Phone& phone, std::string_view app) {
   const ForkedProcess process([&](const ForkedProcess& test) {
     device::become({phone.device.folder(), std::string(app)});
     device::loadInjectedLibraries();
-    std::ostringstream rows;
+    std::vector<EmptyRow> rows;
     for (const auto& hook : device::installedHooks()) {
-      rows << hook.className << ' ' << hook.selector << ' ' << hook.encoding << ' ' << hook.isClassMethod
-           << ' ' << (hook.kind == device::InstalledHook::Kind::added) << '\n';
+      rows.push_back({hook.className, hook.selector, hook.encoding, hook.isClassMethod,
+                      hook.kind == device::InstalledHook::Kind::added});
     }
-    test.say(rows.str());
+    test.say(json(rows).dump());
   });
-  std::istringstream told(process.hear());
-  std::vector<EmptyRow> rows;
-  for (EmptyRow row;
-       told >> row.className >> row.selector >> row.encoding >> row.isClassMethod >> row.isAdded;)
-    rows.push_back(row);
-  return rows;
+  return json::parse(process.hear()).get<std::vector<EmptyRow>>();
 }
 
 void ignore() {}
@@ -69,21 +68,19 @@ void load(const char* library) {
 }
 
 /// What a process that is about to become that app says of the loading.
-std::string askOfLoading(const Phone& phone, std::string_view app,
-                         const std::function<std::string()>& loading) {
+json askOfLoading(const Phone& phone, std::string_view app, const std::function<json()>& loading) {
   const ForkedProcess process([&](const ForkedProcess& test) {
     device::become({phone.device.folder(), std::string(app)});
     const AutoreleasePool pool;
     beAHost();
-    test.say(loading());
+    test.say(loading().dump());
   });
-  return process.hear();
+  return json::parse(process.hear());
 }
 
 double secondsToLoad(const Phone& phone, std::string_view app, const char* library) {
-  return 1e-9 * std::stod(askOfLoading(phone, app, [library] {
-           return std::to_string(1e9 * secondsOf([library] { load(library); }));
-         }));
+  const auto seconds = [library] { return secondsOf([library] { load(library); }); };
+  return askOfLoading(phone, app, seconds).get<double>();
 }
 
 /// Numbers of one process.
@@ -92,6 +89,7 @@ struct Memory {
   std::int64_t written = 0;
   std::int64_t mapped = 0;
 };
+NLOHMANN_DEFINE_TYPE_NON_INTRUSIVE(Memory, heap, written, mapped)
 
 std::int64_t heapBytes() {
   const auto heap = mallinfo2();
@@ -119,16 +117,15 @@ Memory mappedFrom(const std::string& file) {
 }
 
 Memory memoryToLoad(const Phone& phone, std::string_view app, const char* library) {
-  std::istringstream told(askOfLoading(phone, app, [library] {
+  const auto loading = [library] {
     const std::int64_t before = heapBytes();
     load(library);
     const std::int64_t heap = heapBytes() - before;
-    const Memory mapped = mappedFrom(library);
-    return std::to_string(heap) + ' ' + std::to_string(mapped.written) + ' ' + std::to_string(mapped.mapped);
-  }));
-  Memory memory;
-  told >> memory.heap >> memory.written >> memory.mapped;
-  return memory;
+    Memory memory = mappedFrom(library);
+    memory.heap = heap;
+    return memory;
+  };
+  return askOfLoading(phone, app, loading).get<Memory>();
 }
 
 void choose(const Phone& phone) {
