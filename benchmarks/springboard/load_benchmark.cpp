@@ -24,7 +24,7 @@ namespace velvault12::benchmarks {
 namespace {
 
 constexpr int kSenders = 8;
-constexpr int kMessages = 10'000;
+constexpr int kMessages = 2'000;
 /// What an app sends in one go: as much as waits for SpringBoard without keeping the app waiting as well.
 constexpr int kBurst = 100;
 
