@@ -48,5 +48,22 @@ TEST_F(User, SeesTheScreenInTheErrorOfAStep) {
   EXPECT_TRUE(me.sees("Delete Pets")) << "it is where it was left";
 }
 
+using ControlSocket = PlainPhone;
+
+TEST_F(ControlSocket, RefusesWhatIsNoCommand) {
+  const device::App app = phone_.launch(device::kGallery);
+  const auto socket = phone_.folder() / "run/control" / std::to_string(app.process());
+  const device::Descriptor connection = device::connectTo(socket);
+  for (const std::string_view frame :
+       {"", "{", "7", "[]", "[7]", "[\"nothing\"]", "[\"tap\"]", "[\"tap\",7]", "[\"screen\",\"x\"]",
+        "[\"\xff\"]", "[\"setPasscode\",1]", "[\"answerOwnerRequest\",\"maybe\"]",
+        "[\"waitToSee\",\"Gallery\",0.5]"}) {
+    EXPECT_TRUE(device::sendFrame(connection.get(), frame));
+    EXPECT_TRUE(device::receiveFrame(connection.get()).value_or("").starts_with("{\"error\":")) << frame;
+  }
+  EXPECT_FALSE(app.user().sees("\xff"));
+  EXPECT_TRUE(app.user().sees("Gallery"));
+}
+
 }  // namespace
 }  // namespace velvault12
