@@ -1,19 +1,12 @@
 #import "device/frameworks/CameraUI/CAMViewfinderViewController.h"
 
-@interface CameraApplication : UIApplication {
-  UIWindow* _window;
-}
+@interface CameraApplication : UIApplication
 @end
 
 @implementation CameraApplication
 
-- (void)dealloc {
-  [_window release];
-  [super dealloc];
-}
-
 - (void)applicationDidFinishLaunching:(UIApplication*)application {
-  _window = [[UIWindow alloc] _initShowing:[[[CAMViewfinderViewController alloc] init] autorelease]];
+  [self _show:[[[CAMViewfinderViewController alloc] init] autorelease]];
 }
 
 @end

@@ -145,23 +145,16 @@ NSString* countOf(PHAssetCollection* album) {
 
 @end
 
-@interface GalleryApplication : UIApplication {
-  UIWindow* _window;
-}
+@interface GalleryApplication : UIApplication
 @end
 
 @implementation GalleryApplication
-
-- (void)dealloc {
-  [_window release];
-  [super dealloc];
-}
 
 - (void)applicationDidFinishLaunching:(UIApplication*)application {
   UIViewController* gallery = [[[GalleryViewController alloc] init] autorelease];
   UINavigationController* root = [UINavigationController alloc];
   root = [[root initWithRootViewController:gallery] autorelease];
-  _window = [[UIWindow alloc] _initShowing:root];
+  [self _show:root];
 }
 
 @end

@@ -6,20 +6,13 @@
 @implementation FBSystemApp
 @end
 
-@interface SpringBoard : FBSystemApp {
-  UIWindow* _window;
-}
+@interface SpringBoard : FBSystemApp
 @end
 
 @implementation SpringBoard
 
-- (void)dealloc {
-  [_window release];
-  [super dealloc];
-}
-
 - (void)applicationDidFinishLaunching:(UIApplication*)application {
-  _window = [[UIWindow alloc] _initShowing:[[[UIViewController alloc] init] autorelease]];
+  [self _show:[[[UIViewController alloc] init] autorelease]];
 }
 
 @end

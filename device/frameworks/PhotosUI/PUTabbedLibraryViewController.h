@@ -18,7 +18,7 @@
 @end
 
 @interface PLPhotosApplication : UIApplication {
-  UIWindow* _window;
+  /// The window's.
   PUTabbedLibraryViewController* _tabbedLibraryViewController;
 }
 - (PUTabbedLibraryViewController*)_tabbedLibraryViewController;

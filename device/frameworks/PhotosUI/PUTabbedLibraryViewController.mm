@@ -108,17 +108,9 @@ bool contains(NSArray* contentModes, int contentMode) {
 
 @implementation PLPhotosApplication
 
-- (void)dealloc {
-  [_window release];
-  [_tabbedLibraryViewController release];
-  [super dealloc];
-}
-
 - (void)applicationDidFinishLaunching:(UIApplication*)application {
-  _tabbedLibraryViewController = [[PUTabbedLibraryViewController alloc] init];
-  _window = [[UIWindow alloc] initWithFrame:[[UIScreen mainScreen] bounds]];
-  [_window setRootViewController:_tabbedLibraryViewController];
-  [_window makeKeyAndVisible];
+  _tabbedLibraryViewController = [[[PUTabbedLibraryViewController alloc] init] autorelease];
+  [self _show:_tabbedLibraryViewController];
 }
 
 - (PUTabbedLibraryViewController*)_tabbedLibraryViewController {

@@ -10,13 +10,12 @@
 }
 @property(nonatomic, retain) UIViewController* rootViewController;
 - (void)makeKeyAndVisible;
-/// Fills the screen with the controller at once.
-- (id)_initShowing:(UIViewController*)controller;
 @end
 
 /// One a process. It takes the part of its own delegate, as the system's apps do.
 @interface UIApplication : UIResponder {
   struct UIApplicationWindows* _windows;
+  UIWindow* _ownWindow;
   UIWindow* _keyWindow;
   BOOL _inBackground;
   BOOL _layoutScheduled;
@@ -32,6 +31,8 @@
 - (void)_layoutWindows;
 - (void)_window:(UIWindow*)window isVisible:(BOOL)visible;
 - (void)_makeKeyWindow:(UIWindow*)window;
+/// Fills the screen with the controller at once, in a window of the app's own. Once an app.
+- (void)_show:(UIViewController*)controller;
 
 @property(nonatomic, readonly) BOOL _isInBackground;
 - (void)_enterBackground;

@@ -27,14 +27,6 @@ UIApplication* theApplication = nil;
   return self;
 }
 
-- (id)_initShowing:(UIViewController*)controller {
-  self = [self initWithFrame:[[UIScreen mainScreen] bounds]];
-  if (!self) return nil;
-  [self setRootViewController:controller];
-  [self makeKeyAndVisible];
-  return self;
-}
-
 - (void)dealloc {
   [[UIApplication sharedApplication] _window:self isVisible:NO];
   [_rootViewController release];
@@ -109,6 +101,7 @@ UIApplication* theApplication = nil;
 }
 
 - (void)dealloc {
+  [_ownWindow release];
   theApplication = nil;
   delete _windows;
   [super dealloc];
@@ -127,6 +120,12 @@ UIApplication* theApplication = nil;
 
 - (void)_makeKeyWindow:(UIWindow*)window {
   _keyWindow = window;
+}
+
+- (void)_show:(UIViewController*)controller {
+  _ownWindow = [[UIWindow alloc] initWithFrame:[[UIScreen mainScreen] bounds]];
+  [_ownWindow setRootViewController:controller];
+  [_ownWindow makeKeyAndVisible];
 }
 
 - (void)_scheduleLayout {
