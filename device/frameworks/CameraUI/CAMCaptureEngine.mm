@@ -1,7 +1,7 @@
 #import "device/frameworks/CameraUI/CAMCaptureEngine.h"
 
 #include "device/frameworks/Dispatch.hpp"
-#include "device/frameworks/Photos/shared_photo_database.hpp"
+#include "device/frameworks/Photos/photo_database.hpp"
 #include "device/system/work_queue.hpp"
 
 namespace {

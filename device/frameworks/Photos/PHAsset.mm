@@ -4,7 +4,7 @@
 #include <vector>
 
 #import "device/frameworks/Photos/PHCollection.h"
-#include "device/frameworks/Photos/shared_photo_database.hpp"
+#include "device/frameworks/Photos/photo_database.hpp"
 #import "device/frameworks/UIKit/UIColor.h"
 
 namespace {

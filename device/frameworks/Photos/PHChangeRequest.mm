@@ -4,7 +4,7 @@
 
 #include "device/frameworks/Foundation/property_list.hpp"
 #import "device/frameworks/Photos/PHPhotoLibrary.h"
-#include "device/frameworks/Photos/shared_photo_database.hpp"
+#include "device/frameworks/Photos/photo_database.hpp"
 
 using device::PhotoDatabase;
 

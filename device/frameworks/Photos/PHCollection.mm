@@ -5,7 +5,6 @@
 #include <set>
 
 #import "device/frameworks/Photos/PHAsset.h"
-#include "device/frameworks/Photos/shared_photo_database.hpp"
 
 namespace {
 

@@ -6,7 +6,6 @@
 #include <string>
 
 #include "device/frameworks/Foundation/property_list.hpp"
-#include "device/frameworks/Photos/shared_photo_database.hpp"
 #include "device/system/work_queue.hpp"
 
 NSString* const PHPhotosErrorDomain = @"PHPhotosErrorDomain";

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "device/system/disk.hpp"
+
 namespace device {
 namespace {
 
@@ -196,6 +198,11 @@ std::vector<AssetRow> PhotoDatabase::assetsInAlbum(std::int64_t album) const {
 
 std::vector<CollectionRow> PhotoDatabase::albumsContaining(std::int64_t asset) const {
   return readCollections(*database_, "JOIN membership ON album = identifier WHERE asset = ?", asset);
+}
+
+PhotoDatabase& sharedPhotoDatabase() {
+  thread_local PhotoDatabase database(diskOfThisProcess().locate(kPhotoDatabasePath));
+  return database;
 }
 
 }  // namespace device

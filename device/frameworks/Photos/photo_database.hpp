@@ -93,4 +93,8 @@ class PhotoDatabase {
   std::shared_ptr<SQLite::Database> database_;
 };
 
+/// The photo library of the phone whose app this process is. Each thread has a connection of its own, opened
+/// when first asked for.
+PhotoDatabase& sharedPhotoDatabase();
+
 }  // namespace device
