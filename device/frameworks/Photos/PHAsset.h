@@ -24,6 +24,8 @@ enum PHAssetMediaSubtype : NSUInteger { PHAssetMediaSubtypePhotoLive = 1 << 3 };
 @property(nonatomic, readonly, getter=isFavorite) BOOL favorite;
 /// The one colour of all its pixels.
 @property(nonatomic, readonly) UIColor* _pixelColor;
+/// "2020-05-01": of its creation date in UTC.
+@property(nonatomic, readonly) NSString* _day;
 /// "Photo, 2020-05-01 12:00:00", or "Video, ...": its creation date in UTC.
 @property(nonatomic, readonly) NSString* _words;
 

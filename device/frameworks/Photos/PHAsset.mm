@@ -47,12 +47,20 @@ CGFloat channel(std::uint32_t color, int shift) { return ((color >> shift) & 0xf
   return [UIColor colorWithRed:channel(_color, 16) green:channel(_color, 8) blue:channel(_color, 0) alpha:1];
 }
 
-- (NSString*)_words {
+- (NSString*)_creationDateInFormat:(NSString*)format {
   NSDateFormatter* formatter = [[[NSDateFormatter alloc] init] autorelease];
   [formatter setTimeZone:[NSTimeZone timeZoneForSecondsFromGMT:0]];
-  [formatter setDateFormat:@"yyyy-MM-dd HH:mm:ss"];
-  NSString* kind = _mediaType == PHAssetMediaTypeVideo ? @"Video" : @"Photo";
-  return [NSString stringWithFormat:@"%@, %@", kind, [formatter stringFromDate:_creationDate]];
+  [formatter setDateFormat:format];
+  return [formatter stringFromDate:_creationDate];
+}
+
+- (NSString*)_day {
+  return [self _creationDateInFormat:@"yyyy-MM-dd"];
+}
+
+- (NSString*)_words {
+  NSString* kind = _mediaType == PHAssetMediaTypeVideo ? @"Video, " : @"Photo, ";
+  return [kind stringByAppendingString:[self _creationDateInFormat:@"yyyy-MM-dd HH:mm:ss"]];
 }
 
 - (std::int64_t)_identifier {

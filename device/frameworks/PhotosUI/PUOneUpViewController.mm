@@ -71,7 +71,7 @@ constexpr CGRect kBadgeFrame = {{12, 12}, {48, 22}};
   _asset = [asset retain];
   _assetViewModel = [[PUAssetViewModel alloc] init];
   _contentHelper = [[PUPhotoViewContentHelper alloc] init];
-  [self setTitle:PUDayOfAsset(asset)];
+  [self setTitle:[asset _day]];
   return self;
 }
 

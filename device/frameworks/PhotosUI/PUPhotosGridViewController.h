@@ -6,9 +6,6 @@
 /// "1 Photo", "2 Photos".
 NSString* PUNumberOfPhotos(NSUInteger count);
 
-/// "2020-05-01": the day of its creation in UTC.
-NSString* PUDayOfAsset(PHAsset* asset);
-
 /// A photo in a grid. It reads "Photo, 2020-05-01 12:00:00", or "Video, ...", by its creation date in UTC;
 /// a selected one, "Photo, ..., selected".
 @interface PUPhotosGridCell : UICollectionViewCell

@@ -25,13 +25,6 @@ NSString* PUNumberOfPhotos(NSUInteger count) {
       stringWithFormat:@"%lu %@", static_cast<unsigned long>(count), count == 1 ? @"Photo" : @"Photos"];
 }
 
-NSString* PUDayOfAsset(PHAsset* asset) {
-  NSDateFormatter* formatter = [[[NSDateFormatter alloc] init] autorelease];
-  [formatter setTimeZone:[NSTimeZone timeZoneForSecondsFromGMT:0]];
-  [formatter setDateFormat:@"yyyy-MM-dd"];
-  return [formatter stringFromDate:[asset creationDate]];
-}
-
 @implementation PUPhotosGridCell
 
 - (void)_setAsset:(PHAsset*)asset selected:(BOOL)selected {
@@ -139,8 +132,8 @@ NSString* PUDayOfAsset(PHAsset* asset) {
           viewForSupplementaryElementOfKind:(NSString*)kind
                                 atIndexPath:(NSIndexPath*)path {
   PUPhotosSectionHeaderView* header = [[[PUPhotosSectionHeaderView alloc] init] autorelease];
-  NSString* first = PUDayOfAsset([_assets firstObject]);
-  NSString* last = PUDayOfAsset([_assets lastObject]);
+  NSString* first = [[_assets firstObject] _day];
+  NSString* last = [[_assets lastObject] _day];
   const bool isOneDay = [first isEqualToString:last];
   [[header titleLabel] setText:isOneDay ? first : [NSString stringWithFormat:@"%@ – %@", first, last]];
   return header;
