@@ -39,8 +39,6 @@ enum PHCollectionEditOperation : NSInteger {
   PHCollectionEditOperationRename = 7,
 };
 
-enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
-
 @interface PHCollection : PHObject {
   std::int64_t _identifier;
   NSString* _localizedTitle;
@@ -99,8 +97,6 @@ enum PHCollectionListType : NSInteger { PHCollectionListTypeFolder = 2 };
 @interface PHCollectionList : PHCollection {
   NSArray* _transientCollections;
 }
-@property(nonatomic, readonly) NSInteger collectionListType;
-@property(nonatomic, readonly) NSInteger collectionListSubtype;
 /// Its members as the library holds them now.
 @property(nonatomic, readonly) NSArray* collections;
 /// A list that is kept nowhere.

@@ -361,14 +361,6 @@ NSArray* collectionsIn(std::int64_t folder) {
   [super dealloc];
 }
 
-- (NSInteger)collectionListType {
-  return PHCollectionListTypeFolder;
-}
-
-- (NSInteger)collectionListSubtype {
-  return 100;
-}
-
 - (NSArray*)collections {
   return _transientCollections ? _transientCollections : collectionsIn(_identifier);
 }

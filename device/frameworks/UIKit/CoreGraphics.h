@@ -28,7 +28,6 @@ inline constexpr CGSize CGSizeZero = {0, 0};
 inline constexpr CGRect CGRectZero = {{0, 0}, {0, 0}};
 inline constexpr CGAffineTransform CGAffineTransformIdentity = {1, 0, 0, 1, 0, 0};
 
-constexpr CGPoint CGPointMake(CGFloat x, CGFloat y) { return {x, y}; }
 constexpr CGSize CGSizeMake(CGFloat width, CGFloat height) { return {width, height}; }
 constexpr CGRect CGRectMake(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
   return {{x, y}, {width, height}};

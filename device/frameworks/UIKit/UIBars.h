@@ -18,11 +18,6 @@
 - (void)_update;
 @end
 
-enum UIBarButtonSystemItem : NSInteger {
-  UIBarButtonSystemItemOrganize = 10,
-  UIBarButtonSystemItemCamera = 15,
-};
-
 @interface UIBarButtonItem : UIBarItem {
   id _target;
   SEL _action;
@@ -50,7 +45,7 @@ enum UIBarButtonSystemItem : NSInteger {
 // side.
 @property(nonatomic, copy) NSArray* leftBarButtonItems;
 @property(nonatomic, copy) NSArray* rightBarButtonItems;
-@property(nonatomic, retain) UIBarButtonItem* leftBarButtonItem;
+@property(nonatomic, readonly) UIBarButtonItem* leftBarButtonItem;
 @property(nonatomic, retain) UIBarButtonItem* rightBarButtonItem;
 /// The bar that shows the item. Not retained.
 @property(nonatomic, assign, setter=_setNavigationBar:) UINavigationBar* _navigationBar;

@@ -176,10 +176,6 @@ void removeAllSubviews(UIView* view) {
   return [_leftBarButtonItems firstObject];
 }
 
-- (void)setLeftBarButtonItem:(UIBarButtonItem*)item {
-  [self setLeftBarButtonItems:item ? [NSArray arrayWithObject:item] : nil];
-}
-
 - (UIBarButtonItem*)rightBarButtonItem {
   return [_rightBarButtonItems firstObject];
 }

@@ -24,16 +24,14 @@ extern NSString* const UICollectionElementKindSectionHeader;
 
 @interface UIScrollView : UIView {
   CGSize _contentSize;
-  CGFloat _minimumZoomScale;
   CGFloat _maximumZoomScale;
   CGFloat _zoomScale;
   id _delegate;
 }
 @property(nonatomic) CGSize contentSize;
 @property(nonatomic) CGPoint contentOffset;
-@property(nonatomic) CGFloat minimumZoomScale;
 @property(nonatomic) CGFloat maximumZoomScale;
-/// Kept between the two others. What is in the middle stays there, as far as the content reaches.
+/// Kept between 1 and the maximum. What is in the middle stays there, as far as the content reaches.
 @property(nonatomic) CGFloat zoomScale;
 @property(nonatomic, assign) id delegate;
 /// Whether two fingers zoom it.

@@ -25,7 +25,6 @@ NSString* const UICollectionElementKindSectionHeader = @"UICollectionElementKind
 @implementation UIScrollView
 
 @synthesize contentSize = _contentSize;
-@synthesize minimumZoomScale = _minimumZoomScale;
 @synthesize maximumZoomScale = _maximumZoomScale;
 @synthesize zoomScale = _zoomScale;
 @synthesize delegate = _delegate;
@@ -33,7 +32,7 @@ NSString* const UICollectionElementKindSectionHeader = @"UICollectionElementKind
 - (id)initWithFrame:(CGRect)frame {
   self = [super initWithFrame:frame];
   if (!self) return nil;
-  _minimumZoomScale = _maximumZoomScale = _zoomScale = 1;
+  _maximumZoomScale = _zoomScale = 1;
   [self setClipsToBounds:YES];
   return self;
 }
@@ -73,14 +72,14 @@ NSString* const UICollectionElementKindSectionHeader = @"UICollectionElementKind
 }
 
 - (BOOL)_zooms {
-  return _minimumZoomScale < _maximumZoomScale && [self _zoomedView];
+  return _maximumZoomScale > 1 && [self _zoomedView];
 }
 
 /// The view's frame grows by its size, not by a transform: touches here do not follow one.
 - (void)setZoomScale:(CGFloat)scale {
   UIView* zoomed = [self _zoomedView];
   if (!zoomed) return;
-  scale = std::max(_minimumZoomScale, std::min(scale, _maximumZoomScale));
+  scale = std::max(1.0, std::min(scale, _maximumZoomScale));
   const CGFloat growth = scale / _zoomScale;
   _zoomScale = scale;
   const auto [origin, size] = [zoomed frame];

@@ -3,12 +3,6 @@
 #import "device/frameworks/UIKit/UIColor.h"
 #import "device/frameworks/UIKit/UIView.h"
 
-enum UIImageRenderingMode : NSInteger {
-  UIImageRenderingModeAutomatic = 0,
-  UIImageRenderingModeAlwaysOriginal = 1,
-  UIImageRenderingModeAlwaysTemplate = 2,
-};
-
 @interface UIImage : NSObject {
   NSString* _path;
   NSData* _data;

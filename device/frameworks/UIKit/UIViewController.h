@@ -47,7 +47,6 @@
 
 /// What the receiver or one of its ancestors presents.
 @property(nonatomic, readonly) UIViewController* presentedViewController;
-@property(nonatomic, readonly) UIViewController* presentingViewController;
 - (void)presentViewController:(UIViewController*)controller
                      animated:(BOOL)animated
                    completion:(void (^)(void))completion;

@@ -174,10 +174,6 @@
   return [self _outermostController]->_presentedViewController;
 }
 
-- (UIViewController*)presentingViewController {
-  return [self _outermostController]->_presentingViewController;
-}
-
 - (void)_checkPresentation {
   if (!_presentingViewController && !_parentViewController) return;
   [NSException raise:NSInvalidArgumentException
