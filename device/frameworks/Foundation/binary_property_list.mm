@@ -1,13 +1,16 @@
 #include "device/frameworks/Foundation/binary_property_list.hpp"
 
 #include <bit>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
 #include "device/frameworks/Foundation/property_list.hpp"
 
-// A reader of its own: GNUstep's trusts the counts in the file and follows objects that hold themselves.
+// Replaces two readers. GNUstep's trusts the counts in the file and follows objects that hold themselves.
+// libplist 2.2 copies an object for each reference to it, so that 200 bytes can fill the memory, and aborts
+// at a key that holds U+0000.
 
 namespace device {
 namespace {
@@ -111,6 +114,8 @@ class Reader {
     }
     if (size != 8) return nil;
     const auto real = std::bit_cast<double>(value);
+    // GNUstep raises for a date that is no number.
+    if (kind == kDate && std::isnan(real)) return nil;
     return kind == kReal ? [NSNumber numberWithDouble:real]
                          : (id)[NSDate dateWithTimeIntervalSince1970:real + kReferenceDate];
   }

@@ -13,8 +13,11 @@ namespace {
 // GNUstep's readers of text follow the nesting on the stack, which holds out for more than twice as many.
 constexpr std::size_t kMostContainers = 20'000;
 constexpr int kDeepest = 512;
-/// Seconds from 1970, either way: beyond any year that can be written.
-constexpr double kFarthestDate = 1e18;
+/// Ends a text that a few shared objects make grow without end.
+constexpr std::size_t kLongestText = 16 << 20;
+/// Seconds from 1970. A written year has four digits, and GNUstep's reader takes the year 0 for the year 1.
+constexpr double kYear1 = -62'135'596'800;
+constexpr double kYear10000 = 253'402'300'800;
 
 std::size_t occurrences(std::string_view text, std::string_view word) {
   std::size_t count = 0;
@@ -30,14 +33,20 @@ bool isXmlCutOff(std::string_view text) {
 // A phone knows no such form. Its reader makes room for as many items as the file says that it holds.
 bool isGnustepsOwnForm(std::string_view bytes) { return bytes.starts_with('\0') || bytes.starts_with('\1'); }
 
+// With GNUstep's readers. libplist's takes any text for a number or a date, and a file without its end for a
+// whole one; it does not know the old text. The checks around it were longer than these.
 id textPropertyListIn(std::string_view text) {
   if (isXmlCutOff(text) || isGnustepsOwnForm(text)) return nil;
   const std::size_t containers = occurrences(text, "<array") + occurrences(text, "<dict") +
                                  occurrences(text, "(") + occurrences(text, "{");
   if (containers > kMostContainers) return nil;
+  // The readers look a few characters ahead, behind the end as well.
+  std::string padded(text);
+  padded.append(64, '\0');
   @try {
-    return [NSPropertyListSerialization propertyListWithData:[NSData dataWithBytes:text.data()
-                                                                            length:text.size()]
+    return [NSPropertyListSerialization propertyListWithData:[NSData dataWithBytesNoCopy:padded.data()
+                                                                                  length:text.size()
+                                                                            freeWhenDone:NO]
                                                      options:NSPropertyListImmutable
                                                       format:NULL
                                                        error:NULL];
@@ -46,11 +55,12 @@ id textPropertyListIn(std::string_view text) {
   }
 }
 
-// GNUstep's own writer spoils characters beyond the first 65,536, such as most emoji.
+// Replaces two writers. GNUstep's spoils characters above U+FFFF, such as most emoji, and hangs over dates
+// before the year 1. libplist's has no dates outside of 1932 to 2069 and no integers above 2^63 - 1.
 class XmlWriter {
  public:
   bool write(id value, int depth = 0) {
-    if (depth > kDeepest) return false;
+    if (depth > kDeepest || text.size() > kLongestText) return false;
     if ([value isKindOfClass:[NSString class]]) return string("string", value);
     if ([value isKindOfClass:[NSNumber class]]) return number(value);
     if ([value isKindOfClass:[NSDate class]]) return date(value);
@@ -71,8 +81,8 @@ class XmlWriter {
     if (!bytes) return false;
     std::string escaped;
     std::string_view rest(static_cast<const char*>([bytes bytes]), [bytes length]);
-    // Two characters that XML cannot hold, in whatever form.
-    if (rest.find("\uFFFE") != rest.npos || rest.find("\uFFFF") != rest.npos) return false;
+    // The reader drops a byte order mark from the start of a text.
+    if (rest.starts_with("\uFEFF")) return false;
     for (; !rest.empty(); rest.remove_prefix(1)) escaped += escape(rest);
     element(name, escaped);
     return true;
@@ -106,13 +116,12 @@ class XmlWriter {
   }
 
   bool date(NSDate* value) {
-    // A binary property list may hold any number for a date, no number included.
-    if (!(std::abs([value timeIntervalSince1970]) < kFarthestDate)) return false;
-    const auto seconds = static_cast<std::time_t>([value timeIntervalSince1970]);
+    const double seconds = std::floor([value timeIntervalSince1970]);
+    if (!(seconds >= kYear1 && seconds < kYear10000)) return false;
+    const auto time = static_cast<std::time_t>(seconds);
     std::tm parts{};
     char formatted[40];
-    if (!::gmtime_r(&seconds, &parts)) return false;
-    std::strftime(formatted, sizeof formatted, "%Y-%m-%dT%H:%M:%SZ", &parts);
+    std::strftime(formatted, sizeof formatted, "%04Y-%m-%dT%H:%M:%SZ", ::gmtime_r(&time, &parts));
     element("date", formatted);
     return true;
   }
