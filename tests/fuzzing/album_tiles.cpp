@@ -3,7 +3,6 @@
 #include "tests/fuzzing/fuzzed_photos.hpp"
 
 namespace velvault12 {
-namespace {
 
 class AlbumTilesTarget : public FuzzedPhotos {
  public:
@@ -20,8 +19,6 @@ class AlbumTilesTarget : public FuzzedPhotos {
     EXPECT_EQ(openAlbum(), "");
   }
 };
-
-}  // namespace
 
 std::unique_ptr<FuzzTarget> makeTarget() { return std::make_unique<AlbumTilesTarget>(); }
 

@@ -4,7 +4,6 @@
 #include "tests/fuzzing/fuzzed_photos.hpp"
 
 namespace velvault12 {
-namespace {
 
 class AnswerTarget : public FuzzedPhotos {
  public:
@@ -18,7 +17,13 @@ class AnswerTarget : public FuzzedPhotos {
     ASSERT_EQ(openAlbum(), "");
 
     write(kAnswer, bytes);
-    const bool agrees = agreesToOpen(NSDictionary::contentsOfFile(kAnswer));
+    const NSDictionary answer = NSDictionary::contentsOfFile(kAnswer);
+    const Object success = answer["success"], method = answer["method"];
+    const std::string receiver = stringOr("", answer["controller"]);
+    const bool agrees = isStringOrNumber(success) && success.send<"boolValue", bool()>() &&
+                        (!isStringOrNumber(method) || method.send<"intValue", int()>() == 0) &&
+                        receiver != "PUZoomableGridViewController" &&
+                        receiver != "PUAlbumListCellContentView";
     for (const std::string_view opens : {agrees ? "Holidays" : "", ""}) {
       phone_.post(kAnswered);
       turn();
@@ -26,18 +31,7 @@ class AnswerTarget : public FuzzedPhotos {
       returnToList();
     }
   }
-
- private:
-  static bool agreesToOpen(NSDictionary answer) {
-    const Object success = answer["success"], method = answer["method"];
-    const std::string receiver = stringOr("", answer["controller"]);
-    return isStringOrNumber(success) && success.send<"boolValue", bool()>() &&
-           (!isStringOrNumber(method) || method.send<"intValue", int()>() == 0) &&
-           receiver != "PUZoomableGridViewController" && receiver != "PUAlbumListCellContentView";
-  }
 };
-
-}  // namespace
 
 std::unique_ptr<FuzzTarget> makeTarget() { return std::make_unique<AnswerTarget>(); }
 

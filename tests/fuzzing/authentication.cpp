@@ -4,7 +4,6 @@
 #include "tests/fuzzing/fuzz_target.hpp"
 
 namespace velvault12 {
-namespace {
 
 class AuthenticationTarget : public Fuzzed<PhoneTest> {
  public:
@@ -13,7 +12,7 @@ class AuthenticationTarget : public Fuzzed<PhoneTest> {
   void take(std::string_view bytes) override {
     const Object userInfo = received(bytes);
     const auto request = userInfo.as<NSDictionary>();
-    for (const auto owner : {device::OwnerAnswer::cancel, device::OwnerAnswer::success}) {
+    for (const bool agrees : {false, true}) {
       remove(kAnswer);
       UIApplication::sharedApplication().send<"authenticate:withUserInfo:", Object(NSString, Object)>(
           NSString::from("authenticate"), userInfo);
@@ -21,30 +20,19 @@ class AuthenticationTarget : public Fuzzed<PhoneTest> {
       ASSERT_EQ(question.empty(), !request);
       if (!request) return;
       if (!isString(request["albumName"])) EXPECT_EQ(question, "(null) needs to be unlocked.");
-      me_.answerOwnerRequest(owner);
+      me_.answerOwnerRequest(agrees ? device::OwnerAnswer::success : device::OwnerAnswer::cancel);
       turn();
-      if (owner == device::OwnerAnswer::cancel) EXPECT_FALSE(hasFile(kAnswer));
-      if (owner == device::OwnerAnswer::success && isPlain(request)) EXPECT_TRUE(hasFile(kAnswer));
-      if (hasFile(kAnswer)) expectAgreement(NSDictionary::contentsOfFile(kAnswer));
+      // There are values that no file can hold.
+      const bool isPlain =
+          arePlainTexts(request.allKeys()) && arePlainTexts(request.send<"allValues", NSArray()>());
+      if (!agrees || isPlain) EXPECT_EQ(hasFile(kAnswer), agrees);
+      if (!hasFile(kAnswer)) continue;
+      const NSDictionary answer = NSDictionary::contentsOfFile(kAnswer);
+      EXPECT_TRUE((answer["success"].send<"boolValue", bool()>()));
+      EXPECT_EQ(stringOr("", answer["id"]), device::kSpringBoard);
     }
   }
-
- private:
-  /// There are values that no file can hold.
-  static bool isPlain(NSDictionary request) {
-    bool isIt = true;
-    for (const Object key : request.allKeys())
-      isIt = isIt && isPlainText(key) && isPlainText(request.objectForKey(NSString(key.get())));
-    return isIt;
-  }
-  static void expectAgreement(NSDictionary answer) {
-    EXPECT_TRUE((answer["success"].send<"boolValue", bool()>()));
-    EXPECT_EQ(stringOr("", answer["id"]), device::kSpringBoard);
-    EXPECT_EQ(stringOr("", answer["type"]), "SpringBoard");
-  }
 };
-
-}  // namespace
 
 std::unique_ptr<FuzzTarget> makeTarget() { return std::make_unique<AuthenticationTarget>(); }
 

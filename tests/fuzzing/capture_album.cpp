@@ -10,7 +10,6 @@
 #include "tests/fuzzing/fuzz_target.hpp"
 
 namespace velvault12 {
-namespace {
 
 /// An app reads the file once. So the library is not loaded here but linked, to be started for each input.
 class CaptureAlbumTarget : public Fuzzed<PhoneTest> {
@@ -32,11 +31,13 @@ class CaptureAlbumTarget : public Fuzzed<PhoneTest> {
     const Ref<NSArray> list = NSArray::contentsOfFile(kPath);
     const std::string title = stringOr(kCameraRoll, list->count() > 0 ? list->objectAtIndex(0) : Object());
 
-    const auto bar = viewfinder().send<"_bottomBar", CAMBottomBar()>();
+    const auto viewfinder =
+        UIApplication::sharedApplication().keyWindow().send<"rootViewController", UIViewController()>();
+    const auto bar = viewfinder.send<"_bottomBar", CAMBottomBar()>();
     bar.layoutSubviews();
     constexpr NSInteger kCaption = 78;
     EXPECT_EQ((bar.viewWithTag(kCaption).send<"text", NSString()>().utf8()), title);
-    viewfinder().send<"_captureEngine", Object()>().send<"movePhoto", void()>();
+    viewfinder.send<"_captureEngine", Object()>().send<"movePhoto", void()>();
     settleLibrary();
     const auto albums = library_.allAlbums();
     ASSERT_EQ(albums.size(), title == kCameraRoll ? 0u : 1u);
@@ -49,14 +50,8 @@ class CaptureAlbumTarget : public Fuzzed<PhoneTest> {
   }
 
  private:
-  static UIViewController viewfinder() {
-    return UIApplication::sharedApplication().keyWindow().send<"rootViewController", UIViewController()>();
-  }
-
   device::PhotoDatabase library_ = phone_.photoLibrary();
 };
-
-}  // namespace
 
 std::unique_ptr<FuzzTarget> makeTarget() { return std::make_unique<CaptureAlbumTarget>(); }
 

@@ -1,16 +1,16 @@
 #pragma once
 
 #include <algorithm>
-#include <cctype>
 #include <memory>
+#include <regex>
 #include <string_view>
 
 #include "tests/phone_test.hpp"
 
 namespace velvault12 {
 
-/// An app of the phone, and what strangers write for it. One of them lives through all inputs of a run, as an
-/// app lives through all that is written meanwhile.
+/// An app of the phone and its untrusted input. One instance lives through all inputs of a run, as an app
+/// lives through all that is written meanwhile.
 class FuzzTarget {
  public:
   virtual ~FuzzTarget() = default;
@@ -18,10 +18,10 @@ class FuzzTarget {
   virtual void take(std::string_view bytes) = 0;
 };
 
-/// Each program has its own.
+/// Each program defines its own.
 std::unique_ptr<FuzzTarget> makeTarget();
 
-/// A target made of a test's fixture, for what that can do and expect.
+/// A target made of a test's fixture.
 template <class Fixture>
 class Fuzzed : public FuzzTarget, public Fixture {
  protected:
@@ -46,18 +46,16 @@ inline bool isStringOrNumber(Object value) {
 inline std::string stringOr(std::string_view otherwise, Object value) {
   return isString(value) ? NSString(value.get()).utf8() : std::string(otherwise);
 }
-/// Letters alone, which every file and every form of a property list can hold.
-inline bool isPlainText(Object value) {
-  const std::string text = stringOr("", value);
-  return !text.empty() && std::ranges::all_of(text, [](unsigned char c) { return std::isalpha(c) != 0; });
+/// Whether all are strings of letters alone, which every file and every form of a property list can hold.
+inline bool arePlainTexts(NSArray values) {
+  static const std::regex letters("[A-Za-z]{1,99}");
+  const auto isPlain = [](const std::string& text) { return std::regex_match(text, letters); };
+  const auto texts = values.strings();
+  return texts.size() == values.count() && std::ranges::all_of(texts, isPlain);
 }
 /// Whether a file of the phone is an array with that text among its elements.
 inline bool fileHolds(std::string_view path, std::string_view text) {
-  const Ref<NSArray> list = NSArray::contentsOfFile(path);
-  for (const Object each : list.get()) {
-    if (isString(each) && NSString(each.get()).utf8() == text) return true;
-  }
-  return false;
+  return NSArray::contentsOfFile(path)->containsObject(NSString::from(text));
 }
 
 }  // namespace velvault12

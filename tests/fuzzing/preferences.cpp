@@ -4,7 +4,6 @@
 #include "tests/photo_library.hpp"
 
 namespace velvault12 {
-namespace {
 
 class PreferencesTarget : public FuzzedPhotos {
  public:
@@ -24,37 +23,21 @@ class PreferencesTarget : public FuzzedPhotos {
     const bool isEnabled = chosen("enabled", true);
     EXPECT_EQ((albumNamed("Pets").send<"startsAtEnd", bool()>()),
               isEnabled && chosen("startAtBottom", false));
-    EXPECT_EQ((makeObject<PUDeletePhotosActionController>()->send<"shouldSkipDeleteConfirmation", bool()>()),
-              isEnabled && chosen("skipDelete", false));
-    if (const auto tile = tileOf("Holidays"); tile && isEnabled) {
-      const bool showsTitle = chosen("layoutShowTitle", true);
-      EXPECT_EQ(tile.title().utf8(), showsTitle ? "Holidays" : "");
-      if (showsTitle) expectFontSize(tile, file["layoutFontSize"]);
+    constexpr int kDefaultSize = 14, kLeftToTheHost = 15;
+    const Object size = file["layoutFontSize"];
+    const int chosenSize = isStringOrNumber(size) ? size.send<"intValue", int()>() : kDefaultSize;
+    const bool showsTitle = chosen("layoutShowTitle", true);
+    const UICollectionView list = albumList().collectionView();
+    for (NSInteger item = 0; isEnabled && list.hasItemAtIndexPath(pathTo(item)); ++item) {
+      const auto tile = albumList().tileAtIndexPath(pathTo(item));
+      const auto title = albumList().collectionAtIndexPath(pathTo(item)).localizedTitle();
+      EXPECT_EQ(tile.title().utf8(), showsTitle ? title.utf8() : "");
+      const auto font = tile.titleTextField().send<"font", Object()>();
+      if (showsTitle && chosenSize != kLeftToTheHost)
+        EXPECT_EQ((font.send<"pointSize", double()>()), chosenSize < 1 ? kDefaultSize : chosenSize);
     }
-    useTheRest();
-  }
 
- private:
-  /// Nil for an album that is not listed.
-  static PUAlbumListCellContentView tileOf(std::string_view title) {
-    const UICollectionView view = albumList().collectionView();
-    for (NSInteger item = 0; view.hasItemAtIndexPath(pathTo(item)); ++item) {
-      if (albumList().collectionAtIndexPath(pathTo(item)).localizedTitle().utf8() == title)
-        return albumList().tileAtIndexPath(pathTo(item));
-    }
-    return {};
-  }
-
-  static void expectFontSize(PUAlbumListCellContentView tile, Object chosen) {
-    constexpr int kDefault = 14, kLeftToTheHost = 15;
-    int size = isStringOrNumber(chosen) ? chosen.send<"intValue", int()>() : kDefault;
-    if (size < 1) size = kDefault;
-    const Object font = tile.titleTextField().send<"font", Object()>();
-    if (size != kLeftToTheHost) EXPECT_EQ((font.send<"pointSize", double()>()), size);
-  }
-
-  /// Whatever it comes to: what is listed, which tabs there are, leaving the app.
-  void useTheRest() const {
+    // Whatever it comes to: what is listed, which tabs there are, leaving the app.
     membersOf(listOf(elementsOf(topLevel()).get()));
     PhotosApplication(UIApplication::sharedApplication().get())
         .tabbedLibraryViewController()
@@ -64,8 +47,6 @@ class PreferencesTarget : public FuzzedPhotos {
     if (!albumList()) me_.tap("See All");
   }
 };
-
-}  // namespace
 
 std::unique_ptr<FuzzTarget> makeTarget() { return std::make_unique<PreferencesTarget>(); }
 
