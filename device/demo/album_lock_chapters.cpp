@@ -100,8 +100,8 @@ void usePassword(Story& story, Phone& phone) {
   });
   const User& photos = phone.in(kPhotos);
   story.step("You type \"open barley\" and tap OK.", [&] {
-    photos.alert().type("open barley").tap("OK");
-    photos.waitToSee(kWrong);
+    photos.type("open barley");
+    photos.tapToSee("OK", kWrong);
     expect(!isAlbumOpen(photos), "no photo is on screen");
     return "\"" + std::string(kWrong) + "\": it stays closed.";
   });

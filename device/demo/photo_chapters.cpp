@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,8 +63,7 @@ void editAlbums(Story& story, Phone& phone) {
   });
   story.step("You choose \"Move out of camera roll\".", [&] {
     const std::size_t before = phone.inCameraRoll().size();
-    photos.tap("Move out of camera roll");
-    photos.waitToSee(kMoved);
+    photos.tapToSee("Move out of camera roll", kMoved);
     expect(phone.hiddenIn("Holidays") == 3, "its photos are hidden");
     expect(phone.inCameraRoll().size() == before - 3, "the camera roll has three photos less");
     expect(photos.sees("3"), "the tile counts them");

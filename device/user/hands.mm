@@ -30,11 +30,6 @@ constexpr milliseconds kLongestAnimation{1000};
 
 std::string inQuotes(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
-std::string utf8(NSString* text) {
-  const char* bytes = [text UTF8String];
-  return bytes ? bytes : "";
-}
-
 UIApplication* application() {
   UIApplication* shared = [UIApplication sharedApplication];
   if (!shared) throw std::runtime_error("no app runs in this process");
@@ -249,7 +244,10 @@ void type(const std::string& text) {
 void back() {
   settle();
   for (UIView* view : reachableViews()) {
-    if ([[view accessibilityIdentifier] isEqualToString:@"BackButton"]) return touch(view);
+    if ([[view accessibilityIdentifier] isEqualToString:@"BackButton"]) {
+      touch(view);
+      return;
+    }
   }
   fail("no back button");
 }
@@ -265,16 +263,17 @@ void returnToApp() {
 }
 
 std::string fieldText(UITextField* field) {
-  return utf8([field placeholder]) + ([field isSecureTextEntry] ? " (secure)" : "");
+  return textOf([field placeholder]) + ([field isSecureTextEntry] ? " (secure)" : "");
 }
 
 AlertText alert() {
   settle();
   UIAlertController* front = alertInFront();
   if (!front) fail("no alert");
-  AlertText text{.title = utf8([front title]), .message = utf8([front message]), .fields = {}, .buttons = {}};
+  AlertText text{
+      .title = textOf([front title]), .message = textOf([front message]), .fields = {}, .buttons = {}};
   for (UITextField* field in [front textFields]) text.fields.push_back(fieldText(field));
-  for (UIAlertAction* action in [front actions]) text.buttons.push_back(utf8([action title]));
+  for (UIAlertAction* action in [front actions]) text.buttons.push_back(textOf([action title]));
   return text;
 }
 
@@ -298,6 +297,11 @@ void waitUntilGone(const std::string& text, int patience) {
   if (!runUntil([&] { return !isOnScreen(text); }, milliseconds(patience))) {
     fail("waited in vain for the end of " + inQuotes(text));
   }
+}
+
+void tapToSee(const std::string& text, const std::string& notice, int patience) {
+  tap(text);
+  waitToSee(notice, patience);
 }
 
 std::string screen() {
@@ -340,9 +344,12 @@ Command calling(Result (*function)(Arguments...)) {
     if (command != json(call)) throw std::runtime_error("no such step");
     return std::apply(
         [&](const std::string&, const auto&... arguments) -> json {
-          if constexpr (!std::is_void_v<Result>) return function(arguments...);
-          function(arguments...);
-          return nullptr;
+          if constexpr (std::is_void_v<Result>) {
+            function(arguments...);
+            return nullptr;
+          } else {
+            return function(arguments...);
+          }
         },
         call);
   };
@@ -362,6 +369,7 @@ const std::map<std::string, Command> kCommands = {
     {"sees", calling(sees)},
     {"waitToSee", calling(waitToSee)},
     {"waitUntilGone", calling(waitUntilGone)},
+    {"tapToSee", calling(tapToSee)},
     {"screen", calling(screen)},
     {"picture", calling(picture)},
     {"feltFeedback", calling(feltFeedback)},

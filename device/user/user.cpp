@@ -51,6 +51,11 @@ void User::waitUntilGone(std::string_view text, std::chrono::milliseconds patien
   perform({"waitUntilGone", text, patience.count()});
 }
 
+void User::tapToSee(std::string_view text, std::string_view notice,
+                    std::chrono::milliseconds patience) const {
+  perform({"tapToSee", text, notice, patience.count()});
+}
+
 std::string User::screen() const { return perform<std::string>({"screen"}); }
 std::string User::picture(std::string_view ownerRequest) const {
   return perform<std::string>({"picture", ownerRequest});

@@ -64,6 +64,10 @@ class User {
   /// Runs the app until the text is (or is no longer) on screen.
   void waitToSee(std::string_view text, std::chrono::milliseconds patience = kPatience) const;
   void waitUntilGone(std::string_view text, std::chrono::milliseconds patience = kPatience) const;
+  /// Taps what bears the first text and waits for the second in one step: a notice, which goes by itself,
+  /// may be gone when a step of its own comes to look for it.
+  void tapToSee(std::string_view text, std::string_view notice,
+                std::chrono::milliseconds patience = kPatience) const;
 
   /// What is on screen: the visible view tree as indented lines `Class "text" (x y width height)`.
   std::string screen() const;
