@@ -34,6 +34,9 @@ namespace {
 struct Group {
   const char* name;
   std::function<Figures()> measure;
+  /// The quickest of so many processes counts: where a process's memory happens to lie makes it faster or
+  /// slower for all its life.
+  int processes = 3;
 };
 
 const Group kGroups[] = {
@@ -47,7 +50,8 @@ const Group kGroups[] = {
     {"selections", measureAlbumSelection},
     {"methods that are handed on", measurePassThrough},
     {"messages between processes", measureService},
-    {"message load", measureLoad},
+    // A latency that is rarely exceeded is no longer that when the quickest of several is taken.
+    {"message load", measureLoad, 1},
 };
 
 Figures measureInOwnProcess(const Group& group) {
@@ -100,12 +104,10 @@ int main(int argc, char** argv) {
   Figures all;
   try {
     for (const Group& group : kGroups) {
-      // Where a process's memory happens to lie makes it faster or slower for all its life.
-      constexpr int kProcesses = 3;
       if (std::string_view(group.name).find(chosen) == std::string_view::npos) continue;
       std::cerr << "Measuring " << group.name << '\n';
       Figures quickest = measureInOwnProcess(group);
-      for (int i = 1; i < kProcesses; ++i) takeQuicker(measureInOwnProcess(group), quickest);
+      for (int i = 1; i < group.processes; ++i) takeQuicker(measureInOwnProcess(group), quickest);
       std::ranges::move(quickest, std::back_inserter(all));
     }
   } catch (const std::exception& error) {

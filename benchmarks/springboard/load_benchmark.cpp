@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <stdexcept>
@@ -34,12 +33,12 @@ int overtaken = 0;
 /// From just before the sending, in seconds.
 std::vector<double> latencies;
 
-std::int64_t nanoseconds() { return std::chrono::steady_clock::now().time_since_epoch().count(); }
-
 void noteServing(SpringBoard, Replaced<void(NSString, Object)> host, NSString name, Object userInfo) {
   const auto array = userInfo.as<NSDictionary>()[key::kArray].as<NSArray>().strings();
+  const int sender = std::stoi(array.at(0)), number = std::stoi(array.at(1));
   latencies.push_back(static_cast<double>(nanoseconds() - std::stoll(array.at(2))) * 1e-9);
-  overtaken += std::stoi(array[1]) != served.at(std::stoi(array[0]))++;
+  if (number != served.at(sender)) ++overtaken;
+  ++served.at(sender);
   host(name, userInfo);
 }
 

@@ -27,8 +27,6 @@ namespace {
 
 const std::vector<std::string> kArray{"Album 3", "Album 4", "Album 5"};
 
-std::int64_t nanoseconds() { return std::chrono::steady_clock::now().time_since_epoch().count(); }
-
 std::string since(std::int64_t start) { return std::to_string(nanoseconds() - start); }
 
 // SpringBoard without the library: what takes the messages does nothing, or nothing but what it is asked for.

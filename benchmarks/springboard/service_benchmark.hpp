@@ -1,8 +1,14 @@
 #pragma once
 
+#include <chrono>
+#include <cstdint>
+
 #include "benchmarks/bench.hpp"
 
 namespace velvault12::benchmarks {
+
+/// Now, by a clock that all processes share.
+inline std::int64_t nanoseconds() { return std::chrono::steady_clock::now().time_since_epoch().count(); }
 
 /// One "savearray" message, from its sending to the file's being replaced, and opening a locked album, from
 /// the tap to the album on screen: between real processes. The host alone takes the message and does nothing
