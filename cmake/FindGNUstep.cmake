@@ -9,9 +9,9 @@ include(FindPackageHandleStandardArgs)
 find_path(GNUstep_INCLUDE_DIR Foundation/Foundation.h PATH_SUFFIXES GNUstep)
 find_library(GNUstep_LIBRARY gnustep-base)
 find_library(GNUstep_BLOCKS_LIBRARY BlocksRuntime)
-# GCC keeps its runtime, and the only headers of it, in folders of its own, the newest version's last.
+# GCC keeps its runtime, and the only headers of it, in a folder a version, the newest first.
 file(GLOB GCC_FOLDERS /usr/lib/gcc/*/*)
-list(REVERSE GCC_FOLDERS)
+list(SORT GCC_FOLDERS COMPARE NATURAL ORDER DESCENDING)
 find_path(GNUstep_OBJC_INCLUDE_DIR objc/runtime.h PATHS ${GCC_FOLDERS} PATH_SUFFIXES include NO_DEFAULT_PATH)
 find_library(GNUstep_OBJC_LIBRARY objc PATHS ${GCC_FOLDERS} NO_DEFAULT_PATH)
 mark_as_advanced(GNUstep_INCLUDE_DIR GNUstep_LIBRARY GNUstep_BLOCKS_LIBRARY GNUstep_OBJC_INCLUDE_DIR

@@ -108,6 +108,7 @@ std::string article(const Step& step, const fs::path& folder) {
       element("p", attribute("class", "number"),
               "Step " + std::to_string(step.number) + (step.passed ? "" : ": Failed")) +
           element("h3", "", xml(step.text)) +
+          // What was on screen follows in the lines of an error.
           element("p", attribute("class", "result"), xml(step.result.substr(0, step.result.find('\n')))) +
           (phones.empty() ? "" : element("div", attribute("class", "phones"), phones)));
 }

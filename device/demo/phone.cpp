@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <chrono>
 #include <ctime>
-#include <stdexcept>
 
 #include "device/demo/story.hpp"
 #include "device/system/process.hpp"

@@ -1,6 +1,5 @@
 #import "device/frameworks/UIKit/UIApplication.h"
 
-#include <algorithm>
 #include <vector>
 
 #import "device/frameworks/UIKit/UIDevice.h"
