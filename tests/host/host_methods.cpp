@@ -1,10 +1,8 @@
 #include "tests/host/host_methods.hpp"
 
 #include <algorithm>
-#include <cctype>
 #include <regex>
 #include <sstream>
-#include <stdexcept>
 
 namespace velvault12 {
 
@@ -38,10 +36,12 @@ PhotosApplication applicationDidEnterBackground: v@:@ | leaving; +returnToMainVi
 PUTabbedLibraryViewController excludedContentModes @@: | tabs; >selectedNavigationController @@: | leaving
 UITabBar =layoutSubviews v@:; ?hidden B@:; =items @@:
 PUHorizontalAlbumListGadget viewWillAppear: v@:B; collectionView:cellForItemAtIndexPath: @@:@@;
-  collectionView:didSelectItemAtIndexPath: v@:@@ | owner in strip, strip without titles;
+  collectionView:didSelectItemAtIndexPath: v@:@@ | lock of strip, owner in strip, lock without titles, owner
+    without titles;
   +handleLongPress: v@:@; +unlockAlbum:withAlbum: v@:i@; +requestPassword: v@:i; +unlockAuthorised: v@:i;
   +reloadCameraRollWithMove: v@:B; ?showPeople B@:; ?showPlaces B@:; ?titleForCollection: @@:@;
-  ?subtitleForCollection: @@:@; >_gadgetAtIndexPath: @@:@ | owner in strip, strip without titles;
+  ?subtitleForCollection: @@:@; >_gadgetAtIndexPath: @@:@ | lock of strip, owner in strip, lock
+    without titles, owner without titles;
   >collectionView @@:; >gadgetType Q@:; >provider @@:
 PUAlbumListCellContentViewHelper albumCellSize {CGSize=dd}@:
 PUAlbumListCellContentViewHelperConfiguration stackSize {CGSize=dd}@:
@@ -50,7 +50,7 @@ PUSectionedGridLayout itemSize {CGSize=dd}@:
 PUPhotoViewContentHelper imageContentFrame {CGRect={CGPoint=dd}{CGSize=dd}}@:
 PUAlbumListViewController viewWillAppear: v@:B; =viewDidLayoutSubviews v@: | return;
   ?scrollViewWillBeginDragging: v@:@; collectionView:cellForItemAtIndexPath: @@:@@;
-  didSelectItemAtIndexPath: v@:@ | owner in list, move, move from grid; +handleLongPress: v@:@;
+  didSelectItemAtIndexPath: v@:@ | lock of list, owner in list, move, move from grid; +handleLongPress: v@:@;
   +unlockAlbum:withAlbum: v@:i@; +handleCameraTap: v@:@; +returnSelectedPhotos: v@:B;
   +requestPassword: v@:i; +unlockAuthorised: v@:i; +reloadCameraRollWithMove: v@:B; showPeople B@:;
   showPlaces B@:; albumListCellContentView:performDeleteAction: v@:@@ | deletion;
@@ -87,12 +87,12 @@ PXPhotoKitCollectionsDataSourceManager _containsAnyAssets: B@:@; canReorderColle
 PUAssetViewModel wantsIrisBadgeVisible B@:
 PUOneUpSettings setDefaultMaximumZoomFactor: v@:d
 CPDistributedMessagingCenter
-  >.centerNamed: @@:@ | lock in strip, unlock in strip, owner in strip, strip without titles, lock in list,
+  >.centerNamed: @@:@ | lock in strip, unlock in strip, owner in strip, owner without titles, lock in list,
     unlock in list, owner in list, lock button, deletion;
-  >sendMessageName:userInfo: B@:@@ | lock in strip, unlock in strip, owner in strip, strip without titles, lock
+  >sendMessageName:userInfo: B@:@@ | lock in strip, unlock in strip, owner in strip, owner without titles, lock
     in list, unlock in list, owner in list, lock button, deletion
 PHAssetCollection >isTrashBin B@:; >title @@:
-PUAlbumGadget >albumListCellContentView @@:; >title @@: | strip without titles
+PUAlbumGadget >albumListCellContentView @@:; >title @@: | lock without titles, owner without titles
 PUAlbumListCell >albumListCellContentView @@:
 PUAlbumsGadgetProvider >albumListType Q@:
 PUAssetHidingHelper

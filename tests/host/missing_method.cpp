@@ -61,7 +61,8 @@ int heldBy(SEL selector) {
                                        sel_registerName("retain")};
   static const std::set<SEL> giving = {sel_registerName("release"), sel_registerName("autorelease"),
                                        sel_registerName("drain")};
-  return taking.contains(selector) ? 1 : giving.contains(selector) ? -1 : 0;
+  if (taking.contains(selector)) return 1;
+  return giving.contains(selector) ? -1 : 0;
 }
 
 template <class Function>
@@ -124,10 +125,6 @@ void hideFromLibrary(const HostMethod& method) {
 }
 
 bool wasAskedFor() { return asked; }
-
-void PrintTo(const Holdings& holdings, std::ostream* out) {
-  *out << holdings.references << " references, " << holdings.blocks << " blocks";
-}
 
 Holdings holdings() { return {references, blocks}; }
 
