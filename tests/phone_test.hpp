@@ -4,7 +4,7 @@
 #include <sys/inotify.h>
 #include <unistd.h>
 
-#include <chrono>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -25,6 +25,7 @@
 #include "host/hook.hpp"
 #include "host/photos.hpp"
 #include "host/runtime.hpp"
+#include "host/uikit.hpp"
 #include "tests/temporary_folder.hpp"
 
 namespace velvault12 {
@@ -33,12 +34,6 @@ namespace velvault12 {
 extern "C" {
 ObjcBool GSDebugAllocationActive(ObjcBool active);
 int GSDebugAllocationCount(Class type);
-const char* GSDebugAllocationList(ObjcBool sinceLastTime);
-}
-/// How many objects of each class are alive, as a text.
-inline std::string alive() {
-  const AutoreleasePool turn;
-  return GSDebugAllocationList(0);
 }
 
 /// Entries without an object are left out, as a sender would that has none. Autoreleased.
@@ -49,46 +44,52 @@ inline NSMutableDictionary dictionaryOf(
   return std::move(dictionary).autorelease();
 }
 
-/// Installs one hook of the test's own.
 inline void installHook(const HookRow& row) { installHooks({&row, 1}); }
+
+/// A plus for each that is true and a minus for each that is not.
+inline std::string signs(std::initializer_list<bool> answers) {
+  std::string all;
+  for (const bool each : answers) all += each ? '+' : '-';
+  return all;
+}
+/// Where a view lies, in whole points.
+inline std::string frameText(UIView view) {
+  if (!view) return "none";
+  const CGRect frame = view.frame();
+  std::string text;
+  for (const double number : {frame.origin.x, frame.origin.y, frame.size.width, frame.size.height})
+    text += (text.empty() ? "" : " ") + std::to_string(static_cast<int>(number));
+  return text;
+}
 
 /// Makes each change to a folder's files an event of the main thread's run loop.
 class FolderEvents {
  public:
   explicit FolderEvents(const std::filesystem::path& folder) {
-    inotify_add_watch(descriptor_, folder.c_str(), IN_MOVED_TO | IN_CREATE | IN_CLOSE_WRITE | IN_DELETE);
+    inotify_add_watch(events_.get(), folder.c_str(), IN_MOVED_TO | IN_CREATE | IN_CLOSE_WRITE | IN_DELETE);
   }
-  ~FolderEvents() {
-    watch_.reset();
-    close(descriptor_);
-  }
-  FolderEvents(const FolderEvents&) = delete;
-  FolderEvents& operator=(const FolderEvents&) = delete;
 
  private:
-  void drain() const {
-    char events[4096];
-    while (read(descriptor_, events, sizeof events) > 0) continue;
-  }
-
-  int descriptor_ = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
-  std::optional<device::Watch> watch_{std::in_place, descriptor_, [this] { drain(); }};
+  device::Descriptor events_{inotify_init1(IN_NONBLOCK | IN_CLOEXEC)};
+  device::Watch watch_{events_.get(), [events = events_.get()] {
+                         char drained[4096];
+                         while (read(events, drained, sizeof drained) > 0) continue;
+                       }};
 };
 
 /// Keeps the photo library from making changes, for as long as it lives.
 class HeldLibrary {
  public:
   HeldLibrary() {
-    const auto wait = [gate = gate_](bool, Object) { gate->wait(); };
-    PHPhotoLibrary::sharedPhotoLibrary().performChanges(block<void()>([] {}),
-                                                        block<void(bool, Object)>(wait));
+    PHPhotoLibrary::sharedPhotoLibrary().performChanges(
+        block<void()>([] {}), block<void(bool, Object)>([gate = gate_](bool, Object) { gate->wait(); }));
   }
   ~HeldLibrary() { gate_->count_down(); }
   HeldLibrary(const HeldLibrary&) = delete;
   HeldLibrary& operator=(const HeldLibrary&) = delete;
 
  private:
-  std::shared_ptr<std::latch> gate_ = std::make_shared<std::latch>(1);
+  const std::shared_ptr<std::latch> gate_ = std::make_shared<std::latch>(1);
 };
 
 /// A phone with the library installed, whose folder goes with the test. The test's own process may become one
@@ -109,7 +110,6 @@ class PhoneTest : public ::testing::Test {
 
   PhoneTest() { phone_.install(VELVAULT12_LIBRARY, VELVAULT12_FILTER, VELVAULT12_IMAGES); }
 
-  /// Makes this process that app, which does not start.
   void become(std::string_view bundleIdentifier) const {
     device::become({phone_.folder(), std::string(bundleIdentifier)});
   }
@@ -119,7 +119,6 @@ class PhoneTest : public ::testing::Test {
     std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << bytes;
   }
-  /// A property list file that holds an array of strings.
   void writeStrings(std::string_view phonePath, const Titles& strings) const {
     std::string list = "(";
     for (const std::string& string : strings) list += (list.size() == 1 ? "\"" : ", \"") + string + "\"";
@@ -138,8 +137,8 @@ class PhoneTest : public ::testing::Test {
     std::vector<device::AssetRow> all;
     const auto library = phone_.photoLibrary();
     for (const auto& album : library.allAlbums()) {
-      if (album.title != title) continue;
-      for (const auto& asset : library.assetsInAlbum(album.identifier)) all.push_back(asset);
+      const auto assets = library.assetsInAlbum(album.identifier);
+      if (album.title == title) all.insert(all.end(), assets.begin(), assets.end());
     }
     return all;
   }
@@ -162,22 +161,35 @@ class PhoneTest : public ::testing::Test {
   static bool soon(const std::function<bool()>& condition) {
     return device::runUntil(condition, device::kPatience);
   }
-  /// Lets what has reached this process by now be handled: one turn of its run loop handles all that is
-  /// ready.
+  /// Lets what has reached this process by now be handled: a turn of its run loop handles all that is ready.
   static void turn() {
     bool isOver = false;
     runOnMainQueue([&isOver] { isOver = true; });
     ASSERT_TRUE(soon([&isOver] { return isOver; }));
   }
+  /// Waits until every timer has fired that is due by now.
+  static void waitForTimers() {
+    const Ref<NSTimer> timer(NSTimer::scheduledOnce(0, NSString::from("x"), selector<"length">()));
+    ASSERT_TRUE(soon([&] { return !timer->send<"isValid", bool()>(); }));
+  }
+  static constexpr std::string_view kBack = "<";
   void tap(std::initializer_list<std::string_view> texts) const {
-    for (const std::string_view text : texts) me_.tap(text);
+    for (const std::string_view text : texts) {
+      if (text == kBack) {
+        me_.back();
+      } else {
+        me_.tap(text);
+      }
+    }
   }
   /// Lets everything that is on its way arrive: a message to SpringBoard, where the test runs one, and back.
   void settle() const {
-    if (springBoard_) springBoard_->user().screen();
+    // What SpringBoard had before the first question is handled before the second.
+    if (springBoard_) {
+      for (int question = 0; question < 2; ++question) springBoard_->user().ownerRequest();
+    }
     turn();
   }
-  /// Has the settings read again.
   void reload(const Preferences& preferences) const {
     phone_.writePreferences(preferences);
     phone_.post(kReload);
@@ -187,12 +199,32 @@ class PhoneTest : public ::testing::Test {
   /// these bring about.
   static void settleLibrary() {
     for (int round = 0; round < 2; ++round) {
-      bool isOver = false;
-      const auto end = [&isOver](bool, Object) { runOnMainQueue([&isOver] { isOver = true; }); };
+      const auto isOver = std::make_shared<bool>(false);
+      const auto end = [isOver](bool, Object) { runOnMainQueue([isOver] { *isOver = true; }); };
       PHPhotoLibrary::sharedPhotoLibrary().performChanges(block<void()>([] {}),
                                                           block<void(bool, Object)>(end));
-      ASSERT_TRUE(soon([&isOver] { return isOver; }));
+      ASSERT_TRUE(soon([&] { return *isOver; }));
     }
+  }
+  /// Which photos an album or the whole library holds once it is at rest, by the minutes of 1970 in which
+  /// they were taken, and which are hidden, such as "1 2* 3".
+  std::string photosIn(std::string_view title) const {
+    settleLibrary();
+    return wordsOf(assetsIn(title));
+  }
+  std::string allPhotos() const {
+    settleLibrary();
+    return wordsOf(phone_.photoLibrary().allAssets());
+  }
+  /// How often a file of the phone is opened during the call.
+  int openings(std::string_view phonePath, const std::function<void()>& call) const {
+    const device::Descriptor watch(inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+    // Closing as well: of two events that are the same the second would be left out.
+    inotify_add_watch(watch.get(), phone_.onDisk(phonePath).c_str(), IN_OPEN | IN_CLOSE);
+    call();
+    inotify_event events[64];
+    const ssize_t bytes = read(watch.get(), events, sizeof events);
+    return bytes < 0 ? 0 : static_cast<int>(bytes / (2 * sizeof(inotify_event)));
   }
   bool soonLocked(const Titles& titles) const {
     const FolderEvents events(phone_.onDisk(kStateFolder));
@@ -200,12 +232,21 @@ class PhoneTest : public ::testing::Test {
   }
 
  private:
+  static std::string wordsOf(const std::vector<device::AssetRow>& assets) {
+    std::string words;
+    for (const auto& asset : assets) {
+      const int minute = static_cast<int>(asset.creationDate / 60);
+      if (minute > 0)
+        words += (words.empty() ? "" : " ") + std::to_string(minute) + (asset.isHidden ? "*" : "");
+    }
+    return words;
+  }
+
   TemporaryFolder folder_;
 
  protected:
   device::Device phone_{folder_.path() / "phone"};
   std::optional<device::App> springBoard_;
-  /// Who uses the app that this process is.
   const device::User me_ = device::User::here();
   AutoreleasePool pool_;
 };

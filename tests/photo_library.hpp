@@ -8,8 +8,7 @@
 
 namespace velvault12 {
 
-// The photo library as code inside an app meets it: each of these is what the host, or who stands in its way,
-// answers.
+// The photo library as the host, or what is hooked in its way, shows it to code inside an app.
 
 inline std::vector<std::string> titlesOf(const auto& collections) {
   std::vector<std::string> all;
@@ -23,6 +22,10 @@ inline PHAssetCollection albumNamed(std::string_view title) {
 inline PHAssetCollection smartAlbum(NSInteger subtype) {
   return PHAssetCollection::fetch(PHAssetCollection::Type::smartAlbum, PHAssetCollection::Subtype{subtype},
                                   {})
+      .firstObject();
+}
+inline PHAssetCollection importHistory() {
+  return PHAssetCollection::fetch(PHAssetCollection::Type{9}, PHAssetCollection::Subtype::any, {})
       .firstObject();
 }
 /// Albums and folders that are in no folder.

@@ -98,7 +98,11 @@ TEST_F(Faults, WithoutAFolderToWriteInNothingIsKept) {
   for (const std::string_view fault : {"read-only", "missing", "a file in its place"}) {
     SCOPED_TRACE(fault);
     const bool hasList = fault == "read-only";
-    hasList ? permissions(folder, perms::owner_read | perms::owner_exec) : remove(kStateFolder);
+    if (hasList) {
+      permissions(folder, perms::owner_read | perms::owner_exec);
+    } else {
+      remove(kStateFolder);
+    }
     if (fault == "a file in its place") write(kStateFolder, "no folder");
 
     me_.longPress("Pets");
@@ -110,7 +114,11 @@ TEST_F(Faults, WithoutAFolderToWriteInNothingIsKept) {
     EXPECT_TRUE(soonOpen("Pets"));
     me_.back();
     EXPECT_EQ(tapped("Holidays"), hasList ? "" : "Holidays") << "without a list, without locks";
-    hasList ? ownerIs(OwnerAnswer::cancel) : me_.back();
+    if (hasList) {
+      ownerIs(OwnerAnswer::cancel);
+    } else {
+      me_.back();
+    }
     for (const std::string_view app : {device::kPhotos, device::kGallery})
       EXPECT_TRUE(phone_.launch(app).user().sees("Pets"));
     EXPECT_TRUE(phone_.launch(device::kCamera).user().sees("Camera Roll"));
@@ -196,7 +204,11 @@ TEST_F(Faults, SettingsMayChangeBetweenAQuestionAndItsAnswer) {
       SCOPED_TRACE(&change - changes);
       reload({});
       tapUntilAsked({"Holidays"});
-      change ? phone_.writePreferences(*change) : remove(kPreferences);
+      if (change) {
+        phone_.writePreferences(*change);
+      } else {
+        remove(kPreferences);
+      }
       phone_.post(kReload);
       settle();
       EXPECT_EQ(openAlbum(), "");

@@ -1,6 +1,9 @@
 // The edge to the host against the real runtime and Foundation.
 
+#include <Block.h>
 #include <gtest/gtest.h>
+
+#include <memory>
 
 #include "host/block.hpp"
 #include "host/class_pair.hpp"
@@ -40,6 +43,10 @@ TEST_F(Edge, ValuesCrossUnchangedAndThoseOfOtherTypesReadAsAbsent) {
     mixed->addObject(element);
   }
   EXPECT_EQ(mixed->strings(), (std::vector{"a"s, "b"s}));
+  // More than a set hands over at a time.
+  std::vector<std::string> many;
+  for (int number = 0; number < 40; ++number) many.push_back(std::to_string(number));
+  EXPECT_EQ(elementsOf(NSSet::of(NSArray::from(many)).get())->count(), many.size());
 }
 
 TEST_F(Edge, NilAndObjectsWithoutTheMethodAnswerZero) {
@@ -70,21 +77,33 @@ TEST_F(Edge, ReferencesBalance) {
   EXPECT_EQ(references(object.get()), owned);
 }
 
-TEST_F(Edge, ABlockTellsTheHostItsType) {
+TEST_F(Edge, BlockHasATypeAndCopiesThatOwnTheirCaptures) {
   struct Layout {
     void* isa;
     int flags, reserved;
-    void* invoke;
+    void (*invoke)(void* block, bool, id);
     const struct {
       unsigned long sizes[2];
       void* helpers[2];
       const char* signature;
     } * descriptor;
   };
-  auto literal = block<void(bool, Object)>([](bool, Object) {});
-  const auto layout = static_cast<Layout*>(Block<void(bool, Object)>(literal).get());
-  EXPECT_NE(layout->flags & 1 << 30, 0);
-  EXPECT_STREQ(layout->descriptor->signature, "v@?B@");
+  const auto calls = std::make_shared<int>(0);
+  Layout* copies[2];
+  {
+    auto literal = block<void(bool, Object)>([kept = calls](bool, Object) { ++*kept; });
+    for (Layout*& copy : copies)
+      copy = static_cast<Layout*>(_Block_copy(Block<void(bool, Object)>(literal).get()));
+  }
+  EXPECT_EQ(calls.use_count(), 3);
+  for (Layout* const copy : copies) {
+    EXPECT_NE(copy->flags & 1 << 30, 0);
+    EXPECT_STREQ(copy->descriptor->signature, "v@?B@");
+    copy->invoke(copy, true, nullptr);
+    _Block_release(copy);
+  }
+  EXPECT_EQ(*calls, 2);
+  EXPECT_EQ(calls.use_count(), 1);
 }
 
 NSString baseAnswer(Object) { return NSString::from("base"); }
@@ -148,6 +167,7 @@ TEST_F(Edge, AMethodThatIsCalledInAnotherWayIsLeftAlone) {
       {"d16@0:8", "{CGSize=dd}@:", false},
       {"{CGSize=ff}16@0:8", "{CGSize=dd}@:", false},
       {"{CGRect={CGPoint=dd}{CGSize=dd}}16@0:8", "{CGSize=dd}@:", false},
+      {"{A=d}q", "{A=dq}", false},
       {"{open", "{CGSize=dd}@:", false},
       {"v@:@\"open", "v@:@@", false},
   };

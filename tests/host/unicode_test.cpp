@@ -14,9 +14,10 @@ TEST(Unicode, EveryHostStringSurvivesTheWayThereAndBack) {
       u"\u00e9\u2603",
       u"\U0001F512 locked",
       u"a\0b"s,
-      u"\xD800"s,         // half a pair, alone
-      u"\xDC00\xD800"s,   // both halves, the wrong way round
-      u"x\xDBFFy\xDFFF"s  // each alone among letters
+      u"\xD800"s,          // half a pair, alone
+      u"\xDC00\xD800"s,    // both halves, the wrong way round
+      u"x\xDBFFy\xDFFF"s,  // each alone among letters
+      u"\xDBFF\uE000"      // before what is no half
   };
   for (const std::u16string& text : texts) EXPECT_EQ(utf16FromUtf8(utf8FromUtf16(text)), text);
   EXPECT_EQ(utf8FromUtf16(u"\U0001F512"), "\xF0\x9F\x94\x92");

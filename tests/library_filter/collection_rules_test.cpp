@@ -19,7 +19,7 @@ struct Titles {
     ++questions;
     return locked.contains(title);
   }
-  std::set<std::string, std::less<>> locked = {"Locked", "Videos", "\u00e9"};
+  std::set<std::string, std::less<>> locked = {"Locked", "Videos"};
   int questions = 0;
 };
 
@@ -30,9 +30,8 @@ CollectionTraits named(Title title) { return of(album, 2, std::move(title)); }
 CollectionTraits untold(CollectionTraits::Type type, std::int64_t subtype) {
   return {.type = type, .subtype = subtype};
 }
-CollectionTraits trashBin() {
-  return {.type = smartAlbum, .subtype = 1000000201, .tellsSubtype = true, .isTrashBin = true};
-}
+const CollectionTraits kTrashBin{
+    .type = smartAlbum, .subtype = 1000000201, .tellsSubtype = true, .isTrashBin = true};
 
 using Switches = std::vector<bool Settings::*>;
 /// With these switches off, as well as the album "Off"; the album "On" has its own switched on.
@@ -46,104 +45,80 @@ Settings without(const Switches& switches) {
 constexpr auto kLockedToo = &Settings::hideLockedFromApps;
 constexpr auto kFoldersToo = &Settings::hideFoldersInApps;
 
-TEST(Collections, AreListedInPhotosAndInOtherAppsEachByTheirOwnRule) {
-  const struct {
-    CollectionTraits collection;
-    Switches off;
-    bool inPhotos, inOtherApps;
-    /// How often the locked titles are asked for.
-    int questions;
-  } cases[] = {
-      {named("Pets"), {}, true, true, 1},
-      {named("Locked"), {}, true, false, 1},
-      {named("Locked"), {kLockedToo}, true, true, 0},
-      {named("locked"), {}, true, true, 1},
-      {named("e\u0301"), {}, true, true, 1},
-      {named("\u00e9"), {}, true, false, 1},
-      {named(std::string(100'000, 'x')), {}, true, true, 1},
-      {named(""), {}, true, true, 1},
-      {named({}), {}, true, true, 0},
-      {named("Off"), {}, false, false, 0},
-      {named("Off"), {kFoldersToo}, true, false, 0},
-      {named("On"), {}, true, true, 1},
-      // One that a computer keeps.
-      {of(album, 5, "Locked"), {}, true, true, 0},
-      {of(album, 5, "Off"), {}, false, true, 0},
-      {untold(album, 2), {}, true, true, 0},
-      {of(smartAlbum, 202), {}, true, false, 1},
-      {of(smartAlbum, 202), {kLockedToo}, true, false, 1},
-      {of(smartAlbum, 202), {&Settings::showVideos}, false, false, 0},
-      {untold(smartAlbum, 202), {&Settings::showVideos}, true, true, 0},
-      {of(smartAlbum, 205), {}, false, false, 0},
-      {of(smartAlbum, 209, "Locked"), {}, true, true, 0},
-      {trashBin(), {}, true, true, 0},
-      {trashBin(), {&Settings::showDeleted}, false, false, 0},
-      {of(imports, 200), {}, true, true, 0},
-      {of(imports, 200), {&Settings::showImports}, false, true, 0},
-      {untold(imports, 200), {&Settings::showImports}, false, false, 0},
-      {untold(imports, 201), {&Settings::showImports}, true, true, 0},
-      // A folder.
-      {untold(none, 0), {&Settings::showImports, &Settings::showDeleted}, true, true, 0},
-  };
-  for (const auto& [collection, off, inPhotos, inOtherApps, questions] : cases) {
-    SCOPED_TRACE(&collection - &cases[0].collection);
-    SCOPED_TRACE(testing::Message() << std::int64_t(collection.type) << " " << collection.subtype << " "
-                                    << collection.title.value_or("").substr(0, 9));
-    Titles titles;
-    EXPECT_EQ(isListedInPhotos(collection, without(off)), inPhotos);
-    EXPECT_EQ(isListedInOtherApps(collection, without(off), titles), inOtherApps);
-    EXPECT_EQ(titles.questions, questions);
-  }
+/// Whether it is listed in Photos (P) and in other apps (o), and how often the locked titles are asked for.
+std::string listed(const CollectionTraits& collection, const Switches& off = {}) {
+  Titles titles;
+  std::string where = isListedInPhotos(collection, without(off)) ? "P" : "-";
+  where += isListedInOtherApps(collection, without(off), titles) ? "o" : "-";
+  return where + std::to_string(titles.questions);
 }
 
-TEST(Collections, OutOfFoldersComeThoseWithoutASwitchOrWithOneThatIsOffUnlessLocked) {
-  const std::tuple<Title, Switches, bool> cases[] = {
-      {"Pets", {}, true},
-      {Title(), {}, true},
-      {"On", {}, false},
-      {"On", {kFoldersToo}, false},
-      {"Off", {}, false},
-      {"Off", {kFoldersToo}, true},
-      {"Locked", {kFoldersToo}, false},
-      {"Locked", {kLockedToo}, true},
-  };
-  for (const auto& [title, off, isTakenOut] : cases) {
-    Titles titles;
-    EXPECT_EQ(isTakenOutOfFolder(title, without(off), titles), isTakenOut)
-        << title.value_or("") << off.size();
-  }
+TEST(Collections, AreListedInPhotosAndInOtherApps) {
+  EXPECT_EQ(listed(named("Pets")), "Po1");
+  EXPECT_EQ(listed(named("Locked")), "P-1");
+  EXPECT_EQ(listed(named("Locked"), {kLockedToo}), "Po0");
+  EXPECT_EQ(listed(named({})), "Po0");
+  EXPECT_EQ(listed(named("Off")), "--0");
+  EXPECT_EQ(listed(named("Off"), {kFoldersToo}), "P-0");
+  EXPECT_EQ(listed(named("On")), "Po1");
+  EXPECT_EQ(listed(of(album, 5, "Locked")), "Po0") << "a synced one";
+  EXPECT_EQ(listed(of(album, 5, "Off")), "-o0");
+  EXPECT_EQ(listed(untold(album, 2)), "Po0");
+  EXPECT_EQ(listed(of(smartAlbum, 202)), "P-1") << "its kind is locked";
+  EXPECT_EQ(listed(of(smartAlbum, 202), {kLockedToo}), "P-1");
+  EXPECT_EQ(listed(of(smartAlbum, 202), {&Settings::showVideos}), "--0");
+  EXPECT_EQ(listed(untold(smartAlbum, 202), {&Settings::showVideos}), "Po0");
+  EXPECT_EQ(listed(of(smartAlbum, 205)), "--0");
+  EXPECT_EQ(listed(of(smartAlbum, 209, "Locked")), "Po0");
+  EXPECT_EQ(listed(kTrashBin), "Po0");
+  EXPECT_EQ(listed(kTrashBin, {&Settings::showDeleted}), "--0");
+  EXPECT_EQ(listed(of(imports, 200)), "Po0");
+  EXPECT_EQ(listed(of(imports, 200), {&Settings::showImports}), "-o0");
+  EXPECT_EQ(listed(untold(imports, 200), {&Settings::showImports}), "--0");
+  EXPECT_EQ(listed(untold(imports, 201), {&Settings::showImports}), "Po0");
+  EXPECT_EQ(listed(untold(none, 0), {&Settings::showImports, &Settings::showDeleted}), "Po0") << "a folder";
 }
 
-TEST(Fetches, AreRefusedOutsidePhotosAndLeaveHiddenOnesOutOfTheWholeLibrary) {
-  using enum AssetFetch;
-  const struct {
-    CollectionTraits collection;
-    Switches off;
-    AssetFetch inPhotos, inOtherApps, ofKeyAssets;
-  } cases[] = {
-      {named("Pets"), {}, withHidden, withHidden, withHidden},
-      {named("Locked"), {kLockedToo}, withHidden, refused, refused},
-      {named("Off"), {}, withHidden, refused, withHidden},
-      {named("Off"), {kFoldersToo}, withHidden, withHidden, withHidden},
-      {named({}), {}, withHidden, withHidden, withHidden},
-      {of(smartAlbum, 202, "Videos"), {}, withHidden, refused, refused},
-      {of(smartAlbum, 205), {}, withHidden, refused, withHidden},
-      {of(album, 205), {}, withHidden, withHidden, withHidden},
-      {of(smartAlbum, 209), {}, withoutHidden, withoutHidden, withoutHidden},
-      {of(smartAlbum, 1000000205), {}, withoutHidden, withoutHidden, withHidden},
-      {of(album, 209), {}, withHidden, withHidden, withoutHidden},
-      {untold(smartAlbum, 209), {}, withoutHidden, withoutHidden, withHidden},
-      {untold(none, 0), {}, withHidden, withHidden, withHidden},
-  };
-  for (const auto& [collection, off, inPhotos, inOtherApps, ofKeyAssets] : cases) {
-    SCOPED_TRACE(testing::Message() << collection.subtype << " " << collection.title.value_or(""));
+TEST(Collections, AreTakenOutOfFolders) {
+  const auto isTakenOut = [](const Title& title, const Switches& off) {
     Titles titles;
-    EXPECT_EQ(assetFetch(collection, true, without(off), titles), inPhotos);
-    EXPECT_NE(keyAssetFetch(collection, true, titles), refused);
-    EXPECT_EQ(titles.questions, 0) << "nothing is hidden from Photos";
-    EXPECT_EQ(assetFetch(collection, false, without(off), titles), inOtherApps);
-    EXPECT_EQ(keyAssetFetch(collection, false, titles), ofKeyAssets);
-  }
+    return isTakenOutOfFolder(title, without(off), titles);
+  };
+  EXPECT_TRUE(isTakenOut("Pets", {}) && isTakenOut({}, {}));
+  EXPECT_FALSE(isTakenOut("On", {}) || isTakenOut("On", {kFoldersToo}) || isTakenOut("Off", {}));
+  EXPECT_TRUE(isTakenOut("Off", {kFoldersToo}));
+  EXPECT_FALSE(isTakenOut("Locked", {kFoldersToo}));
+  EXPECT_TRUE(isTakenOut("Locked", {kLockedToo}));
+}
+
+/// What a fetch comes to in Photos, in another app, and there of its key assets: with hidden ones (h),
+/// without (w), refused (-).
+std::string fetched(const CollectionTraits& collection, const Switches& off = {}) {
+  Titles titles;
+  const AssetFetch inPhotos = assetFetch(collection, true, without(off), titles);
+  EXPECT_NE(keyAssetFetch(collection, true, titles), AssetFetch::refused);
+  EXPECT_EQ(titles.questions, 0) << "nothing is hidden from Photos";
+  std::string all;
+  for (const AssetFetch each : {inPhotos, assetFetch(collection, false, without(off), titles),
+                                keyAssetFetch(collection, false, titles)})
+    all += each == AssetFetch::refused ? '-' : each == AssetFetch::withHidden ? 'h' : 'w';
+  return all;
+}
+
+TEST(Fetches, AreRefusedOrIncludeHidden) {
+  EXPECT_EQ(fetched(named("Pets")), "hhh");
+  EXPECT_EQ(fetched(named("Locked"), {kLockedToo}), "h--");
+  EXPECT_EQ(fetched(named("Off")), "h-h");
+  EXPECT_EQ(fetched(named("Off"), {kFoldersToo}), "hhh");
+  EXPECT_EQ(fetched(named({})), "hhh");
+  EXPECT_EQ(fetched(of(smartAlbum, 202, "Videos")), "h--");
+  EXPECT_EQ(fetched(of(smartAlbum, 205)), "h-h");
+  EXPECT_EQ(fetched(of(album, 205)), "hhh");
+  EXPECT_EQ(fetched(of(smartAlbum, 209)), "www");
+  EXPECT_EQ(fetched(of(smartAlbum, 1000000205)), "wwh");
+  EXPECT_EQ(fetched(of(album, 209)), "hhw");
+  EXPECT_EQ(fetched(untold(smartAlbum, 209)), "wwh");
+  EXPECT_EQ(fetched(untold(none, 0)), "hhh");
 }
 
 }  // namespace

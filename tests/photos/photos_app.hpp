@@ -1,7 +1,10 @@
 #pragma once
 
+#include <Block.h>
 #include <gtest/gtest.h>
 
+#include "host/block.hpp"
+#include "host/hook.hpp"
 #include "host/photos_ui.hpp"
 #include "tests/phone_test.hpp"
 
@@ -16,14 +19,23 @@ inline void PrintTo(From from, std::ostream* out) { *out << (from == From::strip
 using Preferences = std::map<std::string, device::Device::Preference>;
 inline const Preferences kWithPassword = {{"passOption", 1}};
 
+/// The ends of the notices so far: none goes by itself, so that a test may look when it likes.
+inline std::vector<Block<void(bool)>> noticeEnds;
+inline void holdNotice(Object,
+                       Replaced<void(double, double, NSUInteger, Block<void()>, Block<void(bool)>)> host,
+                       double duration, double delay, NSUInteger options, Block<void()> animations,
+                       Block<void(bool)> completion) {
+  if (delay == 0) return host(duration, delay, options, animations, completion);
+  EXPECT_EQ(delay, 2);
+  noticeEnds.emplace_back(_Block_copy(completion.get()));
+}
+
 /// The Photos app on the simulated device: this process is the app, and the test its user.
 class PhotosApp : public PhoneTest {
  public:
   PhotosApp() {
-    auto library = phone_.photoLibrary();
-    for (const std::string_view title : {"Holidays", "Pets", "Recipes"}) {
-      library.addToAlbum(library.addAsset({}), library.addAlbum(title));
-    }
+    for (const std::string_view title : {"Holidays", "Pets", "Recipes"})
+      library_.addToAlbum(library_.addAsset({}), library_.addAlbum(title));
   }
 
   /// Boots the phone with these albums locked and opens Photos at the strip or the list.
@@ -33,6 +45,11 @@ class PhotosApp : public PhoneTest {
     writeStrings(kLockedAlbums, locked);
     phone_.launchHere(device::kPhotos);
     if (from == From::list) me_.tap("See All");
+  }
+
+  static void holdNotices() {
+    installHook(replaceClassMethod<holdNotice>(
+        "UIView", "animateWithDuration:delay:options:animations:completion:", "v@:ddQ@?@?"));
   }
 
   const device::User& owner() const { return springBoard_->user(); }
@@ -73,11 +90,10 @@ class PhotosApp : public PhoneTest {
     albumList().collectionView().send<"layoutIfNeeded", void()>();
     return albumList().tileAtIndexPath(placeOf(album));
   }
-  /// Uses the tile for another album.
+  static void layOut(UIView view) { view.send<"layoutSubviews", void()>(); }
   static void show(std::string_view title, PUAlbumListCellContentView tile) {
     tile.send<"setTitle:", void(NSString)>(NSString::from(title));
   }
-  /// What a long press on the tile sends.
   static UIGestureRecognizer pressOn(PUAlbumListCellContentView tile) {
     return UIGestureRecognizer(tile.gestureRecognizers().objectAtIndex(0).get());
   }
@@ -92,20 +108,21 @@ class PhotosApp : public PhoneTest {
   bool soonOpen(std::string_view title) const {
     return soon([&] { return openAlbum() == title; });
   }
-  /// Taps the album and answers which one is open then.
   std::string tapped(std::string_view title) const {
     me_.tap(title);
     settle();
     return openAlbum();
   }
-  void enter(std::string_view password, std::string_view button = "OK") const {
+  void enter(std::string_view password) const {
     me_.waitToSee("Unlock album");
-    me_.alert().type(password).tap(button);
+    me_.alert().type(password).tap("OK");
   }
-  void tapAndEnter(std::string_view title, std::string_view password, std::string_view button = "OK") const {
+  void tapAndEnter(std::string_view title, std::string_view password) const {
     me_.tap(title);
-    enter(password, button);
+    enter(password);
   }
+
+  device::PhotoDatabase library_ = phone_.photoLibrary();
 };
 
 }  // namespace velvault12

@@ -31,13 +31,15 @@ TEST_P(Constructor, DoesWhatTheHostIsToGetAndNothingElse) {
   for (const HostMethod& each : methods) {
     if (each.isOnlySent) continue;
     using enum device::InstalledHook::Kind;
-    if (enabled)
+    if (enabled) {
       expected.push_back({each.className, each.selector, plainEncoding(each.encoding),
                           each.isAdded ? added : replaced, each.isClassMethod});
+    }
     // An app that has them all: no version does.
-    if (each.isInNoVersion)
+    if (each.isInNoVersion) {
       ASSERT_TRUE(class_addMethod(objc_getClass(each.className.c_str()),
                                   sel_registerName(each.selector.c_str()), nothing, each.encoding.c_str()));
+    }
   }
 
   // As far as the loader brings it: before the app's own code.

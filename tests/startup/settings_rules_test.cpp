@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace velvault12 {
 namespace {
@@ -19,80 +19,48 @@ Settings loaded(const Preferences& preferences) {
   return settings;
 }
 
-/// Every switch with its key and what it is without one, written down once more on purpose.
 struct Switch {
-  const char* key;
+  std::string_view key;
   bool Settings::*member;
-  bool byDefault;
 };
-const Switch kSwitches[] = {
-    {"enabled", &Settings::enabled, true},
-    {"showDeleted", &Settings::showDeleted, true},
-    {"showFavourites", &Settings::showFavourites, true},
-    {"showPlaces", &Settings::showPlaces, true},
-    {"showPeople", &Settings::showPeople, true},
-    {"showVideos", &Settings::showVideos, true},
-    {"showSelfies", &Settings::showSelfies, true},
-    {"showPanoramas", &Settings::showPanoramas, true},
-    {"showTimelapse", &Settings::showTimelapse, true},
-    {"showSlowmo", &Settings::showSlowmo, true},
-    {"showBursts", &Settings::showBursts, true},
-    {"showScreenshots", &Settings::showScreenshots, true},
-    {"showHidden", &Settings::showHidden, false},
-    {"showPortrait", &Settings::showPortrait, true},
-    {"showAnimated", &Settings::showAnimated, true},
-    {"showLive", &Settings::showLive, true},
-    {"showExposure", &Settings::showExposure, true},
-    {"showRecordings", &Settings::showRecordings, true},
-    {"showRAW", &Settings::showRAW, true},
-    {"showImports", &Settings::showImports, true},
-    {"showTabMoments", &Settings::showTabMoments, true},
-    {"showTabMemories", &Settings::showTabMemories, true},
-    {"showTabShared", &Settings::showTabShared, true},
-    {"showTabAlbums", &Settings::showTabAlbums, true},
-    {"layoutShowTitle", &Settings::layoutShowTitle, true},
-    {"layoutShowSubtitle", &Settings::layoutShowSubtitle, true},
-    {"hideLockedFromApps", &Settings::hideLockedFromApps, true},
-    {"skipDelete", &Settings::skipDelete, false},
-    {"reorderStock", &Settings::reorderStock, false},
-    {"showLiveBadge", &Settings::showLiveBadge, false},
-    {"increaseZoom", &Settings::increaseZoom, false},
-    {"enableCameraPicker", &Settings::enableCameraPicker, true},
-    {"rememberDefault", &Settings::rememberDefault, false},
-    {"returnToMainLocked", &Settings::returnToMainLocked, true},
-    {"returnToMainDefault", &Settings::returnToMainDefault, false},
-    {"pickerMovePhotos", &Settings::pickerMovePhotos, true},
-    {"showSharedAlbums", &Settings::showSharedAlbums, true},
-    {"showPeopleAnd", &Settings::showPeopleAnd, true},
-    {"showMediaTypes", &Settings::showMediaTypes, true},
-    {"showOtherAlbums", &Settings::showOtherAlbums, true},
-    {"hideFoldersInApps", &Settings::hideFoldersInApps, true},
-    {"shrinkAlbums", &Settings::shrinkAlbums, false},
-    {"startAtBottom", &Settings::startAtBottom, false},
-};
+// clang-format off
+#define SWITCH(name) {#name, &Settings::name}
+const Switch kOn[] = {
+  SWITCH(enabled), SWITCH(enableCameraPicker), SWITCH(hideFoldersInApps), SWITCH(hideLockedFromApps),
+  SWITCH(layoutShowTitle), SWITCH(layoutShowSubtitle), SWITCH(pickerMovePhotos), SWITCH(returnToMainLocked),
+  SWITCH(showTabMoments), SWITCH(showTabMemories), SWITCH(showTabShared), SWITCH(showTabAlbums),
+  SWITCH(showSharedAlbums), SWITCH(showPeopleAnd), SWITCH(showMediaTypes), SWITCH(showOtherAlbums),
+  SWITCH(showAnimated), SWITCH(showBursts), SWITCH(showDeleted), SWITCH(showExposure), SWITCH(showFavourites),
+  SWITCH(showImports), SWITCH(showLive), SWITCH(showPanoramas), SWITCH(showPeople), SWITCH(showPlaces),
+  SWITCH(showPortrait), SWITCH(showRAW), SWITCH(showRecordings), SWITCH(showScreenshots), SWITCH(showSelfies),
+  SWITCH(showSlowmo), SWITCH(showTimelapse), SWITCH(showVideos)};
+const Switch kOff[] = {
+  SWITCH(increaseZoom), SWITCH(rememberDefault), SWITCH(reorderStock), SWITCH(returnToMainDefault),
+  SWITCH(showHidden), SWITCH(showLiveBadge), SWITCH(shrinkAlbums), SWITCH(skipDelete), SWITCH(startAtBottom)};
+// clang-format on
 
-/// The keys of the switches that are not as they are by default.
-std::vector<std::string> turned(const Settings& settings) {
-  std::vector<std::string> keys;
-  for (const Switch& each : kSwitches) {
-    if (settings.*each.member != each.byDefault) keys.emplace_back(each.key);
-  }
+std::string turned(const Settings& settings) {
+  std::string keys;
+  for (const auto& [key, member] : kOn) keys += settings.*member ? "" : key;
+  for (const auto& [key, member] : kOff) keys += settings.*member ? key : "";
   return keys;
 }
 
-TEST(Settings, EachSwitchFollowsItsOwnKeyAndElseItsDefault) {
-  const std::vector<std::string> none;
-  EXPECT_EQ(turned(loaded({})), none);
-  for (const auto& [key, member, byDefault] : kSwitches) {
-    Settings settings = loaded({{key, byDefault ? kNo : kYes}});
-    EXPECT_EQ(turned(settings), std::vector<std::string>{key});
+TEST(Settings, SwitchFollowsItsKeyElseItsDefault) {
+  EXPECT_EQ(turned(loaded({})), "");
+  const auto expectToTurn = [](std::string_view switched, const PreferenceValue& value) {
+    const std::string key(switched);
+    Settings settings = loaded({{key, value}});
+    EXPECT_EQ(turned(settings), key);
     applyPreferences(settings, {{"another", kYes}});
-    EXPECT_EQ(turned(settings), none) << "a reload without " << key;
-    EXPECT_EQ(turned(loaded({{key, kUnreadable}})), none) << key;
-  }
+    EXPECT_EQ(turned(settings), "") << "a reload without " << key;
+    EXPECT_EQ(turned(loaded({{key, kUnreadable}})), "") << key;
+  };
+  for (const Switch& each : kOn) expectToTurn(each.key, kNo);
+  for (const Switch& each : kOff) expectToTurn(each.key, kYes);
 }
 
-TEST(Settings, ANumberIsReadOrElseItsDefaultAndAFontSizeBelowOneOnlyWithoutTitleAndSubtitle) {
+TEST(Settings, NumbersHaveDefaultsAndFontALeastSize) {
   EXPECT_EQ(loaded({{"passOption", number(2)}}).passOption, 2);
   EXPECT_EQ(loaded({{"passOption", kUnreadable}}).passOption, 0);
   const auto size = [](PreferenceValue value, PreferenceValue title, PreferenceValue subtitle) {
@@ -106,7 +74,7 @@ TEST(Settings, ANumberIsReadOrElseItsDefaultAndAFontSizeBelowOneOnlyWithoutTitle
   EXPECT_EQ(size(kUnreadable, kNo, kNo), 14);
 }
 
-TEST(Settings, AlbumFlagsAreSetByWholeKeyAndNeverTakenBack) {
+TEST(Settings, AlbumFlagsKeepWholeKeysAcrossReloads) {
   Settings settings = loaded({{"albumNameHolidays", kNo},
                               {"x albumName in the middle", kNo},
                               {"albumNamePets", kUnreadable},

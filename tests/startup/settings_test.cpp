@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <latch>
 #include <thread>
 
 #include "tests/phone_test.hpp"
@@ -12,11 +13,11 @@
 namespace velvault12 {
 namespace {
 
-using SettingsInForce = PhoneTest;
+class CurrentSettings : public PhoneTest {};
 
-TEST_F(SettingsInForce, AreOfOneStateForEveryThreadWhileTheyAreReadAnew) {
+TEST_F(CurrentSettings, AreConsistentOnEveryThreadDuringReloads) {
   become(device::kGallery);
-  // Each state has flags of its own for each of two albums.
+  // Each state has a flag of its own for another album.
   const auto readState = [&](int state) {
     const bool isOn = state % 2 == 0;
     phone_.writePreferences(
@@ -24,16 +25,20 @@ TEST_F(SettingsInForce, AreOfOneStateForEveryThreadWhileTheyAreReadAnew) {
     loadSettings();
   };
   readState(0);
+  constexpr int kThreads = 4;
+  std::latch asked(kThreads);
   std::atomic<bool> isOver = false;
   const auto ask = [&] {
+    asked.count_down();
     while (!isOver) {
-      const auto chosen = settings();
-      ASSERT_EQ(chosen->startAtBottom, chosen->showHidden);
-      ASSERT_EQ(chosen->albumFlag("0"), true);
+      const auto current = settings();
+      ASSERT_EQ(current->startAtBottom, current->showHidden);
+      ASSERT_EQ(current->albumFlag("0"), true);
     }
   };
-  std::vector<std::jthread> threads;
-  for (int i = 0; i < 4; ++i) threads.emplace_back(ask);
+  std::jthread threads[kThreads];
+  for (std::jthread& each : threads) each = std::jthread(ask);
+  asked.wait();
   for (int state = 1; state < 200; ++state) readState(state);
   isOver = true;
 }

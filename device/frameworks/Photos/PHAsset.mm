@@ -85,6 +85,8 @@ CGFloat channel(std::uint32_t color, int shift) { return ((color >> shift) & 0xf
 + (PHFetchResult*)fetchAssetsWithMediaType:(NSInteger)type options:(PHFetchOptions*)options {
   std::vector<device::AssetRow> rows = device::sharedPhotoDatabase().allAssets();
   std::erase_if(rows, [&](const auto& row) { return static_cast<NSInteger>(row.mediaType) != type; });
+  // In the order in which they were stored: a phone promises none to a fetch that is not sorted.
+  std::ranges::sort(rows, {}, &device::AssetRow::identifier);
   return [self _resultOf:rows options:options];
 }
 

@@ -4,8 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cctype>
-#include <sstream>
+#include <vector>
 
 #include "tests/device/frameworks/plain_phone.hpp"
 #include "tests/photos/photos_app.hpp"
@@ -14,30 +13,42 @@ namespace velvault12 {
 
 namespace {
 
-// Classes, each with methods that an iPhone's does not have: a stand-in with one of them would forgive a
-// message that was not asked for.
-constexpr const char* kLacking =
-    R"(UITabBar hidden PXUIButton viewidLoad PXNavigationListGadget provider albumListCellContentView
-PXCollectionsDataSourceManager _containsAnyAssets: canReorderCollection: PXHorizontalCollectionGadget
-provider PUHorizontalAlbumListGadget reloadContentView showPeople showPlaces titleForCollection:
-subtitleForCollection: albumListCellContentView PUAlbumGadget provider PUAlbumListViewController
-alwaysHideTabBar scrollViewWillBeginDragging: titleForCollection: provider PUAlbumsGadgetViewController
-reloadContentView UICollectionViewLayout itemSize PUPhotosGridViewController assetCollection
-shouldShowSectionHeaders PUPhotosAlbumViewController _handleDoneButton: PUZoomableGridViewController
-assetCollection _handleDoneButton: reloadContentView PUOneUpViewController selectedAssets assetCollection
-PXPhotosUIViewController viewProvider selectedAssets PXPhotosContentController viewProvider
-PXCuratedLibraryUIViewController viewModel _handleDoneButton: selectedAssets PHCollection isTrashBin
-PHCollectionList title assetCollectionType assetCollectionSubtype isTrashBin)";
+struct Lacking {
+  const char* className;
+  std::vector<const char*> selectors;
+};
+// A stand-in with one of these methods would forgive a message that was not asked for.
+const Lacking kLacking[] = {
+    {"UITabBar", {"hidden"}},
+    {"PXUIButton", {"viewidLoad"}},
+    {"PXNavigationListGadget", {"provider", "albumListCellContentView"}},
+    {"PXCollectionsDataSourceManager", {"_containsAnyAssets:", "canReorderCollection:"}},
+    {"PXHorizontalCollectionGadget", {"provider"}},
+    {"PUHorizontalAlbumListGadget",
+     {"reloadContentView", "showPeople", "showPlaces",
+      "titleForCollection:", "subtitleForCollection:", "albumListCellContentView"}},
+    {"PUAlbumGadget", {"provider"}},
+    {"PUAlbumListViewController",
+     {"alwaysHideTabBar", "scrollViewWillBeginDragging:", "titleForCollection:", "provider"}},
+    {"PUAlbumsGadgetViewController", {"reloadContentView"}},
+    {"UICollectionViewLayout", {"itemSize"}},
+    {"PUPhotosGridViewController", {"assetCollection", "shouldShowSectionHeaders"}},
+    {"PUPhotosAlbumViewController", {"_handleDoneButton:"}},
+    {"PUZoomableGridViewController", {"assetCollection", "_handleDoneButton:", "reloadContentView"}},
+    {"PUOneUpViewController", {"selectedAssets", "assetCollection"}},
+    {"PXPhotosUIViewController", {"viewProvider", "selectedAssets"}},
+    {"PXPhotosContentController", {"viewProvider"}},
+    {"PXCuratedLibraryUIViewController", {"viewModel", "_handleDoneButton:", "selectedAssets"}},
+    {"PHCollection", {"isTrashBin"}},
+    {"PHCollectionList", {"title", "assetCollectionType", "assetCollectionSubtype", "isTrashBin"}},
+};
 
 TEST(PhotosUIClasses, LackWhatAnIPhoneLacks) {
-  std::istringstream words(kLacking);
-  Class type = nullptr;
-  for (std::string word; words >> word;) {
-    if (std::isupper(word.front())) {
-      type = objc_getClass(word.c_str());
-      ASSERT_NE(type, nullptr) << word;
-    } else {
-      EXPECT_EQ(class_getInstanceMethod(type, sel_registerName(word.c_str())), nullptr) << word;
+  for (const auto& [className, selectors] : kLacking) {
+    const Class type = objc_getClass(className);
+    ASSERT_TRUE(type) << className;
+    for (const char* selector : selectors) {
+      EXPECT_FALSE(class_getInstanceMethod(type, sel_registerName(selector))) << className << ' ' << selector;
     }
   }
 }

@@ -139,7 +139,11 @@ TEST_F(UIKit, WhatIsNotOnScreenIsNotSeenOrTouched) {
       {"hidden", kGone, [&] { ask<"setHidden:">(button, true); }},
       {"in a transparent parent", kGone, [&] { parent.setAlpha(0); }},
       {"outside its parent", kSeen, [&] { button.setFrame(kOutside); }},
-      {"clipped", kGone, [&] { button.setFrame(kOutside), parent.setClipsToBounds(true); }},
+      {"clipped", kGone,
+       [&] {
+         button.setFrame(kOutside);
+         parent.setClipsToBounds(true);
+       }},
       {"off the screen", kGone, [&] { parent.setFrame(kBelow); }},
       {"covered", kGone, [&] { add(kScreen).setBackgroundColor(UIColor::whiteColor()); }},
       {"under glass", kSeen, [&] { add(kScreen).setBackgroundColor(UIColor::white(1, 0.5)); }},

@@ -7,23 +7,19 @@ namespace {
 
 TEST(Selection, IsTheFirstThatThereIs) {
   using enum SelectionSource;
-  const struct {
-    SelectionSources sources;
-    SelectionSource expected;
-  } cases[] = {
-      {{}, none},
-      {{.gridShown = true}, none},
-      {{.albumView = true, .zoomableGrid = true, .photosContent = true, .curatedLibrary = true}, albumView},
-      {{.zoomableGrid = true, .photosContent = true, .curatedLibrary = true}, zoomableGrid},
-      {{.photosContent = true, .curatedLibrary = true}, photosContent},
-      {{.curatedLibrary = true}, curatedLibrary},
-      // The album's view is passed over once the grid has been shown, unless nothing else is selected.
-      {{.albumView = true, .zoomableGrid = true, .gridShown = true}, zoomableGrid},
-      {{.albumView = true, .photosContent = true, .gridShown = true}, photosContent},
-      {{.albumView = true, .curatedLibrary = true, .gridShown = true}, curatedLibrary},
-      {{.albumView = true, .gridShown = true}, albumView},
-  };
-  for (const auto& each : cases) EXPECT_EQ(selectionSource(each.sources), each.expected) << &each - cases;
+  EXPECT_EQ(selectionSource({}), none);
+  EXPECT_EQ(selectionSource({.gridShown = true}), none);
+  EXPECT_EQ(selectionSource({.albumView = true, .zoomableGrid = true}), albumView);
+  // The album's view is passed over once the grid has been shown, unless nothing else is selected.
+  for (const bool gridShown : {true, false}) {
+    SelectionSources sources{gridShown, true, true, true, gridShown};
+    EXPECT_EQ(selectionSource(sources), zoomableGrid);
+    sources.zoomableGrid = false;
+    EXPECT_EQ(selectionSource(sources), photosContent);
+    sources.photosContent = false;
+    EXPECT_EQ(selectionSource(sources), curatedLibrary);
+  }
+  EXPECT_EQ(selectionSource({.albumView = true, .gridShown = true}), albumView);
 }
 
 }  // namespace

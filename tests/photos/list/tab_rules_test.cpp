@@ -2,55 +2,40 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <string_view>
-#include <vector>
+#include <string>
 
 namespace velvault12 {
 namespace {
 
-/// With these tabs on: M(oments), m(emories), s(hared), a(lbums).
-Settings withTabs(std::string_view on) {
-  const auto has = [&](char tab) { return on.find(tab) != std::string_view::npos; };
-  Settings settings;
-  settings.showTabMoments = has('M');
-  settings.showTabMemories = has('m');
-  settings.showTabShared = has('s');
-  settings.showTabAlbums = has('a');
-  return settings;
+/// With these on: M(oments), m(emories), s(hared), a(lbums).
+Settings withTabs(const std::string& on) {
+  const auto has = [&](char tab) { return on.find(tab) != std::string::npos; };
+  return {.showTabMoments = has('M'),
+          .showTabMemories = has('m'),
+          .showTabShared = has('s'),
+          .showTabAlbums = has('a')};
 }
 
-TEST(Tabs, AreLeftOutByTheirNumbersButForTheLastOne) {
-  using Modes = std::vector<int>;
-  struct Case {
-    std::string_view on;
-    Modes excluded;
-    bool isOne;
-  };
-  // Before iOS 13.
-  const Case cases[] = {
-      {"Mmsa", {}, false},    {"Mms", {13}, false},     {"Mma", {12}, false},     {"Mm", {12, 13}, false},
-      {"Msa", {11}, false},   {"Ms", {11, 13}, false},  {"Ma", {11, 12}, false},  {"M", {11, 12, 13}, true},
-      {"msa", {0}, false},    {"ms", {0, 13}, false},   {"ma", {0, 12}, false},   {"m", {0, 12, 13}, true},
-      {"sa", {0, 11}, false}, {"s", {0, 11, 13}, true}, {"a", {0, 11, 12}, true}, {"", {0, 11, 12}, false},
-  };
-  for (const auto& [on, excluded, isOne] : cases) {
-    const Settings settings = withTabs(on);
-    const auto left = [&](double version) {
-      Modes modes;
-      for (const auto mode : excludedContentModes(settings, version)) {
-        if (mode) modes.push_back(*mode);
-      }
-      return modes;
-    };
-    Modes later = excluded;
-    std::replace(later.begin(), later.end(), 0, 10);
-    EXPECT_EQ(left(1443.0), excluded) << on;
-    EXPECT_EQ(left(1620.0), excluded) << on;
-    EXPECT_EQ(left(1620.01), later) << on;
-    EXPECT_EQ(left(1740.0), later) << on;
-    EXPECT_EQ(hasOneTab(settings), isOne) << on;
-  }
+std::string excluded(const std::string& on, double version = 1620.0) {
+  std::string modes;
+  for (const auto mode : excludedContentModes(withTabs(on), version))
+    if (mode) modes += std::to_string(*mode) + ' ';
+  return modes;
+}
+
+TEST(Tabs, AreExcludedExceptTheLast) {
+  EXPECT_EQ(excluded("Mmsa"), "");
+  EXPECT_EQ(excluded("msa"), "0 ");
+  EXPECT_EQ(excluded("Msa"), "11 ");
+  EXPECT_EQ(excluded("Mma"), "12 ");
+  EXPECT_EQ(excluded("Mms"), "13 ");
+  EXPECT_EQ(excluded("M"), "11 12 13 ");
+  EXPECT_EQ(excluded("m"), "0 12 13 ");
+  EXPECT_EQ(excluded("s"), "0 11 13 ");
+  for (const char* on : {"a", ""}) EXPECT_EQ(excluded(on), "0 11 12 ");
+  EXPECT_EQ(excluded("", 1620.01), "10 11 12 ") << "from iOS 13 on";
+  for (const char* on : {"M", "m", "s", "a"}) EXPECT_TRUE(hasOneTab(withTabs(on))) << on;
+  for (const char* on : {"", "Mm", "sa", "Mmsa"}) EXPECT_FALSE(hasOneTab(withTabs(on))) << on;
 }
 
 }  // namespace

@@ -5,17 +5,12 @@
 namespace velvault12 {
 namespace {
 
-TEST(AlbumSize, IsWhatTheScreensWidthLeavesForTwoAndABit) {
+TEST(TileMeasures, FollowTheScreenAndLeaveTheTextsTheirHeight) {
   EXPECT_EQ(albumSize(375), 164);
   EXPECT_EQ(albumSize(320), 140);
   EXPECT_EQ(albumSize(0), 1);
-}
-
-TEST(TileMeasures, ShrinkTheStackToTwoThirdsAndLeaveTheTextsTheirHeight) {
   EXPECT_EQ(shrunkStackSide(164), 109);
-  EXPECT_EQ(shrunkStackSide(140), 93);
   EXPECT_EQ(shrunkTileHeight(109, 163, 207), 153);
-  EXPECT_EQ(shrunkTileHeight(109, 163, 163), 109);
   EXPECT_EQ(shrunkTileHeight(109, 163, 150), 109) << "no texts at all";
 }
 
