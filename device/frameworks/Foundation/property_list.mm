@@ -25,6 +25,12 @@ std::size_t occurrences(std::string_view text, std::string_view word) {
   return count;
 }
 
+bool hasTooManyContainers(std::string_view text) {
+  std::size_t containers = occurrences(text, "<array") + occurrences(text, "<dict");
+  if (!text.starts_with("<?xml")) containers += occurrences(text, "(") + occurrences(text, "{");
+  return containers > kMostContainers;
+}
+
 // GNUstep's reader of XML reaches for what would follow where the text stops.
 bool isXmlCutOff(std::string_view text) {
   return text.starts_with("<?xml") && text.find("</plist>") == text.npos;
@@ -36,10 +42,7 @@ bool isGnustepsOwnForm(std::string_view bytes) { return bytes.starts_with('\0') 
 // With GNUstep's readers. libplist's takes any text for a number or a date, and a file without its end for a
 // whole one; it does not know the old text. The checks around it were longer than these.
 id textPropertyListIn(std::string_view text) {
-  if (isXmlCutOff(text) || isGnustepsOwnForm(text)) return nil;
-  const std::size_t containers = occurrences(text, "<array") + occurrences(text, "<dict") +
-                                 occurrences(text, "(") + occurrences(text, "{");
-  if (containers > kMostContainers) return nil;
+  if (isXmlCutOff(text) || isGnustepsOwnForm(text) || hasTooManyContainers(text)) return nil;
   // The readers look a few characters ahead, behind the end as well.
   std::string padded(text);
   padded.append(64, '\0');
@@ -165,10 +168,13 @@ id propertyListInFile(const std::filesystem::path& file, Class kind) {
 std::optional<std::string> xmlPropertyListOf(id value) {
   XmlWriter writer;
   if (!writer.write(value)) return std::nullopt;
-  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-         "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-         "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\">\n" +
-         writer.text + "</plist>\n";
+  std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                     "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                     "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\">\n" +
+                     writer.text + "</plist>\n";
+  // What would not be read is not written.
+  if (hasTooManyContainers(text)) return std::nullopt;
+  return text;
 }
 
 std::string utf8(NSString* string) {
